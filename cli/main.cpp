@@ -1,0 +1,53 @@
+// The plovix command: one manager run, scripted or interactive, as a small host of the manager.
+#include <cstdio>
+#include <memory>
+
+#include "CommandLine.h"
+#include "entry/ManagerApp.h"
+#include "entry/RunFlow.h"
+#include "entry/StandardRunSteps.h"
+
+namespace {
+
+// The run's real steps, noting whether a description was read after the plug-in finished.
+class CommandRunSteps : public plovix::StandardRunSteps {
+ public:
+  using StandardRunSteps::StandardRunSteps;
+  bool readDescription(plovix::ManagerRun& run) override {
+    descriptionRead = StandardRunSteps::readDescription(run);
+    return descriptionRead;
+  }
+  bool descriptionRead = false;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  plovix::CommandLine commandLine;
+  switch (plovix::parseCommandLine(argc, argv, commandLine)) {
+    case plovix::ParseOutcome::kExit0:
+      return 0;
+    case plovix::ParseOutcome::kUsageError:
+      return 2;
+    case plovix::ParseOutcome::kRun:
+      break;
+  }
+
+  if (commandLine.listModulons) {
+    std::fprintf(stderr, "plovix: --list-modulons is not built yet\n");
+    return 1;
+  }
+  if (!commandLine.renderSymbol.empty()) {
+    std::fprintf(stderr, "plovix: --render-symbol is not built yet\n");
+    return 1;
+  }
+
+  plovix::ManagerApp& app = plovix::ManagerApp::instance();
+  app.restoreDirectoryAtExit = false;
+  app.fetchProjectDirectory();
+  std::unique_ptr<plovix::FrontEnd> frontEnd = plovix::makeFrontEnd(commandLine.frontEnd);
+  CommandRunSteps steps(app, *frontEnd, *frontEnd);
+  plovix::runManager(app, *frontEnd, steps, commandLine.hasDesignFile ? commandLine.designFile.c_str() : nullptr,
+                     commandLine.pluginArgs.c_str());
+  return steps.descriptionRead ? 0 : 1;
+}

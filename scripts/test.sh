@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# Builds plovix and runs every test: the normal build, then the unit tests again under ASan and UBSan.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+jobs=$(nproc)
+cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+cmake --build build -j "$jobs"
+ctest --test-dir build --output-on-failure -j "$jobs"
+if [ "${PLOVIX_SKIP_SANITIZERS:-0}" != 1 ]; then
+  cmake -S . -B build-sanitize -G Ninja -DCMAKE_BUILD_TYPE=Debug -DPLOVIX_SANITIZE=ON -DPLOVIX_WITH_QT=OFF \
+    -DPLOVIX_BUILD_BENCH=OFF >/dev/null
+  cmake --build build-sanitize -j "$jobs"
+  ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
+    ctest --test-dir build-sanitize --output-on-failure -j "$jobs" -LE 'hdltools|e2e'
+fi

@@ -1,0 +1,43 @@
+// Every question and note the system shows besides the error table, built from their fixed texts.
+#pragma once
+
+#include <string>
+
+namespace plovix::questions {
+
+// Run start: the design file name given to the run.
+std::string noExtension();
+std::string illegalExtension(const std::string& extension);
+std::string fileDoesNotExistCreate(const std::string& path);
+std::string notWizardGenerated(const std::string& path);
+
+// Plug-in launch and vendor scripts.
+std::string runVendorScript(const std::string& tool);
+std::string vendorScriptFailed(const std::string& command, const std::string& tool);
+std::string cannotExecuteCommand(const std::string& command, const std::string& systemText);
+
+// Output conflict checks.
+std::string renamedVariation(const std::string& fileTitle, const std::string& newName);
+std::string thdlFallback();
+std::string sameNameFiles(int count, const std::string& list);
+std::string existingOutputsHeader();
+std::string symbolUpdateNote();
+std::string overwriteExistingOutputs(const std::string& list);
+
+// Modulon page.
+std::string createDirectory(const std::string& directory);
+std::string overwriteFile(const std::string& path);
+
+// Browser page.
+std::string driveNotReady(const std::string& drive);
+std::string fileDoesNotExistCreateIt(const std::string& path);
+std::string basedOnOtherModulon(const std::string& path, const std::string& fileModulon,
+                                const std::string& chosenModulon);
+
+// XML reader used without a source or handler.
+std::string xmlParsingError();
+
+// The one-line notice of the maker on the action page.
+std::string makerNotice();
+
+}  // namespace plovix::questions

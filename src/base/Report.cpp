@@ -1,0 +1,87 @@
+// Implementation of message reporting and the file-error mapping.
+#include "base/Report.h"
+
+#include <cerrno>
+
+namespace plovix {
+
+FileErrorCause fileErrorCauseFromErrno(int errorNumber) {
+  switch (errorNumber) {
+    case ENOENT:
+      return FileErrorCause::kFileNotFound;
+    case ENOTDIR:
+    case ENAMETOOLONG:
+    case EINVAL:
+    case ELOOP:
+      return FileErrorCause::kBadPath;
+    case ETXTBSY:
+    case EBUSY:
+      return FileErrorCause::kSharingViolation;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+      return FileErrorCause::kAccessDenied;
+    case ENOSPC:
+    case EDQUOT:
+      return FileErrorCause::kDiskFull;
+    case EIO:
+      return FileErrorCause::kHardwareError;
+    default:
+      return FileErrorCause::kGeneric;
+  }
+}
+
+ErrorCode errorCodeOfCause(FileErrorCause cause) {
+  switch (cause) {
+    case FileErrorCause::kFileNotFound:
+      return 2;
+    case FileErrorCause::kBadPath:
+      return 3;
+    case FileErrorCause::kSharingViolation:
+      return 4;
+    case FileErrorCause::kAccessDenied:
+      return 5;
+    case FileErrorCause::kDiskFull:
+      return 6;
+    case FileErrorCause::kEndOfFile:
+      return 7;
+    case FileErrorCause::kHardwareError:
+      return 8;
+    case FileErrorCause::kGeneric:
+      break;
+  }
+  return 1;
+}
+
+std::string errorMessage(ErrorCode code, const std::string& a1, const std::string& a2, const std::string& a3,
+                         const std::string& a4, const std::string& a5) {
+  const std::string_view text = errorText(code);
+  const std::string* args[] = {&a1, &a2, &a3, &a4, &a5};
+  std::string out;
+  size_t next = 0;
+  for (size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '%' && i + 1 < text.size() && text[i + 1] == 's') {
+      if (next < 5) out += *args[next];
+      ++next;
+      ++i;
+    } else {
+      out += text[i];
+    }
+  }
+  return out;
+}
+
+void reportError(UserInterface& ui, ErrorCode code, const std::string& a1, const std::string& a2,
+                 const std::string& a3, const std::string& a4, const std::string& a5) {
+  ui.report(errorMessage(code, a1, a2, a3, a4, a5));
+}
+
+void reportFileError(UserInterface& ui, FileErrorCause cause, const std::string& path) {
+  reportError(ui, errorCodeOfCause(cause), path);
+}
+
+void reportFileErrno(UserInterface& ui, int errorNumber, const std::string& path) {
+  reportFileError(ui, fileErrorCauseFromErrno(errorNumber), path);
+}
+
+}  // namespace plovix

@@ -1,0 +1,28 @@
+// Text-mode files: every "\n" is stored as "\r\n" when written and a "\r" before "\n" is dropped when read.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace plovix {
+
+// The text with every "\n" turned into "\r\n" / every "\r\n" into "\n".
+std::string toTextMode(std::string_view text);
+std::string fromTextMode(std::string_view bytes);
+
+// Reads a whole file in text mode. On failure returns false and sets `errorNumber`.
+bool readTextFile(const std::string& path, std::string& text, int& errorNumber);
+
+// Splits a text into lines without their line ends; a last line without "\n" counts, an empty tail does not.
+std::vector<std::string> splitLines(std::string_view text);
+
+// Writes `text` in text mode. The text goes to a temporary file in the same directory that is then renamed
+// over the target, so the target is never left half-written. On failure returns false and sets
+// `errorNumber`; the target is unchanged.
+bool writeTextFile(const std::string& path, std::string_view text, int& errorNumber);
+
+// Appends `text` in text mode to a file, creating it when missing.
+bool appendTextFile(const std::string& path, std::string_view text, int& errorNumber);
+
+}  // namespace plovix

@@ -1,0 +1,41 @@
+// The state of one manager run: the output name, the chosen modulon, the flags, and what the run owns.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "catalog/WizardCatalog.h"
+#include "cnx/CnxDescription.h"
+
+namespace plovix {
+
+// States of the run's loop.
+enum RunState : int32_t {
+  kStateActionPage = 1,
+  kStateModulonPage = 2,
+  kStateBrowserPage = 3,
+  kStateLaunch = 4,
+  kStateGenerate = 5,
+};
+
+struct ManagerRun {
+  std::string fileTitle;
+  std::string extension;
+  std::string directory;
+  std::string modulonName;
+  std::string extraArguments;
+  std::string encPath;
+  bool editMode = false;
+  bool newFile = true;
+  bool directLaunch = false;
+  int32_t pluginResult = 1;
+  int32_t state = kStateActionPage;
+  std::unique_ptr<CnxDescription> description;
+  std::unique_ptr<WizardCatalog> catalog;
+
+  std::string outputPath() const { return directory + fileTitle + extension; }
+  std::string cnxPath() const { return directory + fileTitle + ".cnx"; }
+};
+
+}  // namespace plovix

@@ -1,0 +1,59 @@
+// The real steps of a run, each handing over to the subsystem that does the work.
+#include "entry/StandardRunSteps.h"
+
+#include "entry/ConflictChecks.h"
+#include "entry/GenerateVariation.h"
+#include "entry/PluginLaunch.h"
+
+namespace plovix {
+
+PageContext StandardRunSteps::pageContext(ManagerRun& run) {
+  return PageContext{ui_, *run.catalog, app_.corner, app_.projectDirectory};
+}
+
+void StandardRunSteps::loadCatalog(ManagerRun& run) {
+  run.catalog = std::make_unique<WizardCatalog>();
+  run.catalog->load(ui_);
+}
+
+int StandardRunSteps::showActionPage(ManagerRun& run, ActionPage& page) {
+  PageContext context = pageContext(run);
+  return pages_.showActionPage(page, context);
+}
+
+int StandardRunSteps::showModulonPage(ManagerRun& run, ModulonSelectionPage& page) {
+  PageContext context = pageContext(run);
+  return pages_.showModulonPage(page, context);
+}
+
+int StandardRunSteps::showBrowserPage(ManagerRun& run, VariationBrowserPage& page) {
+  PageContext context = pageContext(run);
+  return pages_.showBrowserPage(page, context);
+}
+
+bool StandardRunSteps::stripGenerationLine(ManagerRun& run, const std::string& cnxPath) {
+  return run.description->stripGenerationLine(ui_, cnxPath);
+}
+
+bool StandardRunSteps::extractRetrievalInfo(ManagerRun& run, const std::string& variationPath) {
+  return run.description->extractRetrievalInfo(ui_, variationPath);
+}
+
+LaunchResult StandardRunSteps::launchPlugin(ManagerRun&) { return plovix::launchPlugin(app_, ui_); }
+
+bool StandardRunSteps::readDescription(ManagerRun& run) { return run.description->readDescription(ui_); }
+
+std::string StandardRunSteps::resolveSubComponentClash(ManagerRun& run) {
+  return plovix::resolveSubComponentClash(ui_, run);
+}
+
+bool StandardRunSteps::generateVariationFiles(ManagerRun&, const std::string& outputPath, bool writeDesign,
+                                              bool writeSymbol) {
+  return plovix::generateVariationFiles(app_, ui_, outputPath, writeDesign, writeSymbol);
+}
+
+void StandardRunSteps::deleteWorkFiles(ManagerRun& run) { run.description->deleteWorkFiles(); }
+
+void StandardRunSteps::offerVendorScript(ManagerRun&) { plovix::offerVendorScript(app_, ui_); }
+
+}  // namespace plovix

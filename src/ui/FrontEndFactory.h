@@ -1,0 +1,33 @@
+// Choosing and making the front end from the configuration (PLOVIX_UI and friends, or plovix options).
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "ui/FrontEnd.h"
+
+namespace plovix {
+
+enum class FrontEndKind { kAutomatic, kBatch, kConsole, kQt };
+
+struct FrontEndOptions {
+  FrontEndKind kind = FrontEndKind::kAutomatic;
+  std::string modulon;   // batch: the modulon chosen on the pages
+  std::string language;  // batch: "thdl", "vhdl" or "verilog"
+  bool answerOk = true;  // batch: the answer to every question
+};
+
+// The options as the environment sets them.
+FrontEndOptions frontEndOptionsFromEnvironment();
+
+// Parses a PLOVIX_UI / --ui value; false when it is none of batch, console, qt.
+bool parseFrontEndKind(const std::string& text, FrontEndKind& kind);
+
+// Whether the Qt front end was built in.
+bool qtFrontEndAvailable();
+
+// The front end of the options' kind; automatic means Qt when a display is there and Qt was built, else
+// console when standard input is a terminal, else batch.
+std::unique_ptr<FrontEnd> makeFrontEnd(const FrontEndOptions& options);
+
+}  // namespace plovix
