@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "CommandLine.h"
+#include "Subcommands.h"
 #include "entry/ManagerApp.h"
 #include "entry/RunFlow.h"
 #include "entry/StandardRunSteps.h"
@@ -33,19 +34,13 @@ int main(int argc, char** argv) {
       break;
   }
 
-  if (commandLine.listModulons) {
-    std::fprintf(stderr, "plovix: --list-modulons is not built yet\n");
-    return 1;
-  }
-  if (!commandLine.renderSymbol.empty()) {
-    std::fprintf(stderr, "plovix: --render-symbol is not built yet\n");
-    return 1;
-  }
+  std::unique_ptr<plovix::FrontEnd> frontEnd = plovix::makeFrontEnd(commandLine.frontEnd);
+  if (commandLine.listModulons) return plovix::listModulons(*frontEnd);
+  if (!commandLine.renderSymbol.empty()) return plovix::renderSymbol(*frontEnd, commandLine.renderSymbol);
 
   plovix::ManagerApp& app = plovix::ManagerApp::instance();
   app.restoreDirectoryAtExit = false;
   app.fetchProjectDirectory();
-  std::unique_ptr<plovix::FrontEnd> frontEnd = plovix::makeFrontEnd(commandLine.frontEnd);
   CommandRunSteps steps(app, *frontEnd, *frontEnd);
   plovix::runManager(app, *frontEnd, steps, commandLine.hasDesignFile ? commandLine.designFile.c_str() : nullptr,
                      commandLine.pluginArgs.c_str());

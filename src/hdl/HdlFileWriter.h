@@ -1,0 +1,69 @@
+// The writer family: what every language writer holds, the files it writes and the texts it builds.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "base/UserInterface.h"
+#include "cnx/CnxDescription.h"
+#include "hdl/NetlistRecords.h"
+
+namespace plovix {
+
+class HdlFileWriter {
+ public:
+  // `basePath` is the output directory followed by the variation's base name, without extension.
+  HdlFileWriter(UserInterface& ui, std::string basePath, std::string signatureName, CnxDescription& description);
+  virtual ~HdlFileWriter() = default;
+  HdlFileWriter(const HdlFileWriter&) = delete;
+  HdlFileWriter& operator=(const HdlFileWriter&) = delete;
+
+  // basePath + designExtension: the design text followed by the retrieval info.
+  virtual bool writeDesignFile();
+  // basePath + companionExtension: the companion text.
+  virtual bool writeCompanionFile();
+  // The symbol, through the symbol builder.
+  virtual bool writeSymbolFile();
+  // basePath + "_inst" + designExtension: the instantiation template.
+  virtual bool writeInstanceFile();
+  // The design text without the retrieval info.
+  virtual std::string designText();
+  // The generated-file header.
+  virtual std::string headerText();
+  virtual std::string buildDesignText() = 0;
+  virtual std::string buildCompanionText() = 0;
+  virtual std::string buildInstanceText() = 0;
+
+  const std::string& basePath() const { return basePath_; }
+  const std::string& fileName() const { return fileName_; }
+  const std::string& signatureName() const { return signatureName_; }
+  const std::string& commentLeader() const { return commentLeader_; }
+  const std::string& designExtension() const { return designExtension_; }
+  const std::string& companionExtension() const { return companionExtension_; }
+
+  // Netlist state, filled by the netlist builder for the VHDL and Verilog texts.
+  int32_t netlistFlag = 0;
+  std::vector<NetlistWire> wires;
+  std::vector<NetlistConnection> connections;
+  std::vector<SubModulePort> subModulePorts;
+  int32_t wireCounter = 0;
+
+ protected:
+  // Writes `text` to `path` and reports a failure through the file-error messages.
+  bool writeFile(const std::string& path, const std::string& text);
+  // The 20-line legal notice block in this writer's comment style.
+  std::string legalNoticeText() const;
+
+  UserInterface& ui_;
+  std::string basePath_;
+  std::string signatureName_;
+  std::string fileName_;
+  std::string commentLeader_;
+  std::string designExtension_;
+  std::string companionExtension_;
+  std::string version_;
+  CnxDescription& description_;
+};
+
+}  // namespace plovix
