@@ -42,6 +42,22 @@ class HdlFileWriter {
   const std::string& designExtension() const { return designExtension_; }
   const std::string& companionExtension() const { return companionExtension_; }
 
+  // The connection netlist (VHDL and Verilog texts): fills wires and connections from the description.
+  void buildNetlist();
+  // Fills subModulePorts with the merged ports of the instantiated modules.
+  void buildSubModulePorts();
+  // The first wire whose sourceKey equals `key`, or null.
+  NetlistWire* findWire(const std::string& key);
+  // Appends a wire with a fresh "sub_wire%d" name and gives the name; nothing and "" for an empty source text.
+  std::string newWire(const std::string& sourceText, const std::string& key, const std::string& drivingPort,
+                      const std::string& width1, const std::string& width2, bool inverted, bool constant);
+  // The wire that carries a connection's driving end, found or created.
+  std::string wireFor(const NetlistConnection& connection);
+  // The same for one bit driving a bus: the new wire takes the driven end's widths.
+  std::string wireForBitToBus(const NetlistConnection& connection);
+  // Widens a wire driven by a main-module port to that port's widths; whether such a port was found.
+  bool fixMainModuleWire(NetlistWire& wire);
+
   // Netlist state, filled by the netlist builder for the VHDL and Verilog texts.
   int32_t netlistFlag = 0;
   std::vector<NetlistWire> wires;
