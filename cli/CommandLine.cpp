@@ -10,16 +10,20 @@ namespace plovix {
 
 namespace {
 
-constexpr const char* kUsage = "usage: plovix [options] [<design file name>] (plovix --help lists the options)";
+constexpr const char* kUsage =
+    "usage: plovix [options] [<design file name>] (plovix --help lists the options)";
 
-void setEnvironment(const char* name, const std::string& value) { setenv(name, value.c_str(), 1); }
+void setEnvironment(const char* name, const std::string& value) {
+  setenv(name, value.c_str(), 1);
+}
 
 }  // namespace
 
 ParseOutcome parseCommandLine(int argc, char** argv, CommandLine& out) {
   CLI::App app{
       "plovix: create and edit custom variations of modulons.\n\n"
-      "With a design file name (.tdf, .vhd or .v) an existing variation is edited, or a missing one created;\n"
+      "With a design file name (.tdf, .vhd or .v) an existing variation is edited, or a missing one "
+      "created;\n"
       "without one the wizard starts at its first page.",
       "plovix"};
   app.set_version_flag("--version", std::string("plovix ") + PLOVIX_VERSION);
@@ -27,8 +31,9 @@ ParseOutcome parseCommandLine(int argc, char** argv, CommandLine& out) {
   std::string ui, language, answer, project, userLibPath, libPath, topFile;
   bool batch = false;
   app.add_option("design-file", out.designFile, "The variation's design file (.tdf, .vhd or .v)");
-  app.add_option("--ui", ui, "Front end: batch, console or qt (default: qt with a display, console on a terminal, "
-                             "else batch)")
+  app.add_option("--ui", ui,
+                 "Front end: batch, console or qt (default: qt with a display, console on a terminal, "
+                 "else batch)")
       ->check(CLI::IsMember({"batch", "console", "qt"}));
   app.add_flag("--batch", batch, "Same as --ui batch: no pages are shown, every box is one line on stderr");
   app.add_option("--modulon", out.frontEnd.modulon, "Batch: the modulon to use");
@@ -38,11 +43,13 @@ ParseOutcome parseCommandLine(int argc, char** argv, CommandLine& out) {
       ->check(CLI::IsMember({"ok", "cancel"}));
   app.add_option("--project", project, "Project root directory");
   app.add_option("--user-lib-path", userLibPath, "User library directories, ';'-separated");
-  app.add_option("--lib-path", libPath, "Host library directories, ';'-separated (default: the bundled modulons)");
+  app.add_option("--lib-path", libPath,
+                 "Host library directories, ';'-separated (default: the bundled modulons)");
   app.add_option("--top-file", topFile, "The project's top design file");
   app.add_option("--plugin-args", out.pluginArgs, "Extra arguments appended to the plug-in's command line");
   app.add_flag("--list-modulons", out.listModulons, "Print the catalog of modulons and exit");
-  app.add_option("--render-symbol", out.renderSymbol, "Write an SVG picture of a .sym file to standard output");
+  app.add_option("--render-symbol", out.renderSymbol,
+                 "Write an SVG picture of a .sym file to standard output");
 
   try {
     app.parse(argc, argv);

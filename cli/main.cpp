@@ -42,7 +42,8 @@ int main(int argc, char** argv) {
   app.restoreDirectoryAtExit = false;
   app.fetchProjectDirectory();
   CommandRunSteps steps(app, *frontEnd, *frontEnd);
-  plovix::runManager(app, *frontEnd, steps, commandLine.hasDesignFile ? commandLine.designFile.c_str() : nullptr,
+  plovix::runManager(app, *frontEnd, steps,
+                     commandLine.hasDesignFile ? commandLine.designFile.c_str() : nullptr,
                      commandLine.pluginArgs.c_str());
   return steps.descriptionRead ? 0 : 1;
 }

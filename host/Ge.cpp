@@ -9,7 +9,7 @@
 namespace {
 
 bool isDirectory(const char* path) {
-  struct stat st{};
+  struct stat st {};
   return stat(path, &st) == 0 && S_ISDIR(st.st_mode);
 }
 
@@ -22,7 +22,9 @@ const char* bundledLibrary() {
 
 }  // namespace
 
-extern "C" const char* ge_get_user_lib_path(void) { return std::getenv("PLOVIX_USER_LIB_PATH"); }
+extern "C" const char* ge_get_user_lib_path(void) {
+  return std::getenv("PLOVIX_USER_LIB_PATH");
+}
 
 extern "C" const char* ge_get_qelvix_lib_path(void) {
   const char* configured = std::getenv("PLOVIX_LIB_PATH");

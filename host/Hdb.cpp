@@ -19,7 +19,9 @@ std::string startDirectory() {
   return dir;
 }
 
-[[gnu::constructor]] void rememberStartDirectory() { startDirectory(); }
+[[gnu::constructor]] void rememberStartDirectory() {
+  startDirectory();
+}
 
 int copyOut(const std::string& text, char* buffer, int capacity) {
   if (buffer == nullptr || capacity <= 0) return 0;
@@ -31,7 +33,9 @@ int copyOut(const std::string& text, char* buffer, int capacity) {
 
 }  // namespace
 
-extern "C" int hrw_get_project_tree_id(void) { return 1; }
+extern "C" int hrw_get_project_tree_id(void) {
+  return 1;
+}
 
 extern "C" int hrw_get_root_dir(int, char* buffer, int capacity) {
   const char* configured = std::getenv("PLOVIX_PROJECT_DIR");

@@ -19,7 +19,8 @@ constexpr std::array<std::string_view, kErrorTableSize> kTexts = {
     /* 8 */ "Hardware error encountered for %s",
     /* 9 */ "Specify a modulon name",
     /* 10 */
-    "Modulon %s is not listed in any \nwizard.lst file in the specified library path(s).Wizard launch aborted",
+    "Modulon %s is not listed in any \nwizard.lst file in the specified library path(s).Wizard launch "
+    "aborted",
     /* 11 */ "No launch command line found for modulon wizard plug-in %s",
     /* 12 */ "Illegal or missing filename extension.\nUse .tdf, .vhd, or .v only",
     /* 13 */ "File name can not include space or tab characters",
@@ -37,13 +38,15 @@ constexpr std::array<std::string_view, kErrorTableSize> kTexts = {
     /* 25 */ "Select an available modulon",
     /* 26 */ "No file name has been specified",
     /* 27 */ "Can't start the modulon wizard plug-in %s.\n\n%s",
-    /* 28 */ "Can't find command line for modulon wizard plug-in %s\nin any wizard.lst file in any library path",
+    /* 28 */
+    "Can't find command line for modulon wizard plug-in %s\nin any wizard.lst file in any library path",
     /* 29 */ "%s\tsyntax: \n\n plovix [<design file name>]",
     /* 30 */ "Can't start %s -- CNX file has no module information",
     /* 31 */ "Can't start %s -- CNX file has an unknown version",
     /* 32 */ "Extra tokens at the end of the generation mode line will be ignored",
     /* 33 */
-    "Error in CNX file format.\n\nError messages are listed in file\n%s.\n\nCan't create the custom modulon variation "
+    "Error in CNX file format.\n\nError messages are listed in file\n%s.\n\nCan't create the custom modulon "
+    "variation "
     "file(s)",
     /* 34 */ "Line %s in file %s does not contain an ending\nseparator %s. A terminating %s was assumed",
     /* 35 */ "Ignored invalid line %s in file %s -- it does not contain a command line",
@@ -53,10 +56,12 @@ constexpr std::array<std::string_view, kErrorTableSize> kTexts = {
     "Illegal character in output file name.\nFile names may only contain underscore,\ntilda, or alphanumeric "
     "characters",
     /* 39 */
-    "Illegal character in output file name.\nFile names may only contain underscore or\nalphanumeric characters "
+    "Illegal character in output file name.\nFile names may only contain underscore or\nalphanumeric "
+    "characters "
     "and begin only with a letter or an underscore",
     /* 40 */
-    "Illegal character in output file name.\nFile names may only contain underscore or\nalphanumeric characters "
+    "Illegal character in output file name.\nFile names may only contain underscore or\nalphanumeric "
+    "characters "
     "and begin only with a letter",
 };
 

@@ -15,14 +15,20 @@
 
 namespace plovix {
 
-bool fileExists(const std::string& path) { return !path.empty() && access(path.c_str(), F_OK) == 0; }
+bool fileExists(const std::string& path) {
+  return !path.empty() && access(path.c_str(), F_OK) == 0;
+}
 
-bool isReadable(const std::string& path) { return !path.empty() && access(path.c_str(), R_OK) == 0; }
+bool isReadable(const std::string& path) {
+  return !path.empty() && access(path.c_str(), R_OK) == 0;
+}
 
-bool isWritable(const std::string& path) { return !path.empty() && access(path.c_str(), W_OK) == 0; }
+bool isWritable(const std::string& path) {
+  return !path.empty() && access(path.c_str(), W_OK) == 0;
+}
 
 bool isDirectory(const std::string& path) {
-  struct stat st{};
+  struct stat st {};
   return !path.empty() && stat(path.c_str(), &st) == 0 && S_ISDIR(st.st_mode);
 }
 
@@ -139,7 +145,8 @@ bool resolveHere(const std::string& path, std::string& outDirectory, std::string
 
 }  // namespace
 
-bool resolvePath(UserInterface& ui, const std::string& path, std::string& outDirectory, std::string& outFile) {
+bool resolvePath(UserInterface& ui, const std::string& path, std::string& outDirectory,
+                 std::string& outFile) {
   outDirectory.clear();
   outFile.clear();
   WorkingDirectoryGuard guard;
@@ -178,7 +185,7 @@ std::vector<DirectoryEntry> listDirectory(const std::string& directory, const st
     if (!matchesWildcard(name, pattern)) continue;
     DirectoryEntry item;
     item.name = name;
-    struct stat st{};
+    struct stat st {};
     if (stat((prefix + name).c_str(), &st) == 0) {
       item.isDirectory = S_ISDIR(st.st_mode);
       item.size = static_cast<unsigned long long>(st.st_size);

@@ -31,8 +31,12 @@ std::string formatText(const char* format, ...) {
   return result;
 }
 
-std::string formatInt(long long value) { return formatText("%lld", value); }
+std::string formatInt(long long value) {
+  return formatText("%lld", value);
+}
 
-std::string formatChar(char c) { return std::string(1, c); }
+std::string formatChar(char c) {
+  return std::string(1, c);
+}
 
 }  // namespace plovix

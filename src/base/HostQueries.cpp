@@ -28,8 +28,12 @@ std::string projectTopFileName() {
   return nameWithExtension(buffer);
 }
 
-std::string platformName() { return "linux"; }
+std::string platformName() {
+  return "linux";
+}
 
-std::string deviceFamily() { return "null"; }
+std::string deviceFamily() {
+  return "null";
+}
 
 }  // namespace plovix

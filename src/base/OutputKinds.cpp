@@ -9,7 +9,9 @@
 
 namespace plovix {
 
-bool isOutputExtension(std::string_view extension) { return outputKindIndexOfExtension(extension) >= 0; }
+bool isOutputExtension(std::string_view extension) {
+  return outputKindIndexOfExtension(extension) >= 0;
+}
 
 int outputKindIndexOfExtension(std::string_view extension) {
   for (size_t i = 0; i < kOutputKinds.size(); ++i) {
@@ -43,11 +45,13 @@ namespace {
 constexpr std::string_view kDigits = "0123456789";
 constexpr std::string_view kLetters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
 
-bool isIn(std::string_view set, char c) { return set.find(c) != std::string_view::npos; }
+bool isIn(std::string_view set, char c) {
+  return set.find(c) != std::string_view::npos;
+}
 
 struct NameRule {
   std::string_view extension;
-  bool tilde;           // "~" allowed
+  bool tilde;            // "~" allowed
   bool underscoreFirst;  // "_" may begin the name
   bool letterFirst;      // the first character must be a letter (or "_" when underscoreFirst)
   ErrorCode code;
@@ -72,8 +76,8 @@ bool checkOutputFileName(UserInterface& ui, std::string_view extension, std::str
       }
     }
     if (rule.letterFirst) {
-      const bool ok = !baseName.empty() && (isIn(kLetters, baseName.front()) ||
-                                            (rule.underscoreFirst && baseName.front() == '_'));
+      const bool ok = !baseName.empty() &&
+                      (isIn(kLetters, baseName.front()) || (rule.underscoreFirst && baseName.front() == '_'));
       if (!ok) {
         reportError(ui, rule.code);
         return false;

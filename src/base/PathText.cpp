@@ -71,9 +71,13 @@ std::string pathWithoutExtension(std::string_view path) {
   return parts.drive + parts.directory + parts.baseName;
 }
 
-std::string toForwardSlashes(std::string_view path) { return replaceAll(path, "\\", "/"); }
+std::string toForwardSlashes(std::string_view path) {
+  return replaceAll(path, "\\", "/");
+}
 
-std::string toBackslashes(std::string_view path) { return replaceAll(path, "/", "\\"); }
+std::string toBackslashes(std::string_view path) {
+  return replaceAll(path, "/", "\\");
+}
 
 std::string rootOfPath(std::string_view path) {
   if (startsWith(path, "\\\\")) {

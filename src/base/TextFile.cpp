@@ -91,7 +91,7 @@ bool writeTextFile(const std::string& path, std::string_view text, int& errorNum
     errorNumber = errno;
     return false;
   }
-  struct stat targetInfo{};
+  struct stat targetInfo {};
   const bool targetExists = stat(path.c_str(), &targetInfo) == 0;
   if (targetExists && S_ISDIR(targetInfo.st_mode)) {
     errorNumber = EISDIR;

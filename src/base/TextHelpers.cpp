@@ -19,7 +19,9 @@ std::string trimRight(std::string_view text) {
   return last == std::string_view::npos ? std::string() : std::string(text.substr(0, last + 1));
 }
 
-std::string trimText(std::string_view text) { return trimLeft(trimRight(text)); }
+std::string trimText(std::string_view text) {
+  return trimLeft(trimRight(text));
+}
 
 std::string toLowerText(std::string_view text) {
   std::string out(text);
@@ -49,13 +51,17 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
   return out;
 }
 
-bool startsWith(std::string_view text, std::string_view prefix) { return text.substr(0, prefix.size()) == prefix; }
+bool startsWith(std::string_view text, std::string_view prefix) {
+  return text.substr(0, prefix.size()) == prefix;
+}
 
 bool endsWith(std::string_view text, std::string_view suffix) {
   return text.size() >= suffix.size() && text.substr(text.size() - suffix.size()) == suffix;
 }
 
-bool equalsIgnoringCase(std::string_view a, std::string_view b) { return toLowerText(a) == toLowerText(b); }
+bool equalsIgnoringCase(std::string_view a, std::string_view b) {
+  return toLowerText(a) == toLowerText(b);
+}
 
 long long atoiText(std::string_view text) {
   size_t i = 0;
@@ -87,14 +93,20 @@ bool isIntegerText(std::string_view text) {
   return text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-bool isTrueText(std::string_view text) { return text == "TRUE"; }
+bool isTrueText(std::string_view text) {
+  return text == "TRUE";
+}
 
 namespace {
 
-bool isNumericBound(std::string_view text) { return text.find_first_not_of("+-0123456789") == std::string_view::npos; }
+bool isNumericBound(std::string_view text) {
+  return text.find_first_not_of("+-0123456789") == std::string_view::npos;
+}
 
 // The 32-bit value of a number as the C library's conversion reads it.
-int32_t boundNumber(std::string_view text) { return static_cast<int32_t>(std::atoi(std::string(text).c_str())); }
+int32_t boundNumber(std::string_view text) {
+  return static_cast<int32_t>(std::atoi(std::string(text).c_str()));
+}
 
 }  // namespace
 
@@ -146,8 +158,12 @@ std::string literalDigits(std::string_view valueIn, int digits, bool binary) {
 
 }  // namespace
 
-std::string hexLiteral(std::string_view value, int bits) { return literalDigits(value, (bits + 3) / 4, false); }
+std::string hexLiteral(std::string_view value, int bits) {
+  return literalDigits(value, (bits + 3) / 4, false);
+}
 
-std::string binaryLiteral(std::string_view value, int bits) { return literalDigits(value, bits, true); }
+std::string binaryLiteral(std::string_view value, int bits) {
+  return literalDigits(value, bits, true);
+}
 
 }  // namespace plovix

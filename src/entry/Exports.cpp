@@ -45,7 +45,9 @@ VAMLET_EXPORT void vamlet_launch_wizard_direct(const char* fileName) {
   plovix::runManager(app, *frontEnd, steps, fileName, nullptr);
 }
 
-VAMLET_EXPORT void qlx_entry(void) { vamlet_launch_wizard_direct(nullptr); }
+VAMLET_EXPORT void qlx_entry(void) {
+  vamlet_launch_wizard_direct(nullptr);
+}
 
 VAMLET_EXPORT void vamlet_launch_wizard_with_name_return(char* buffer, uint32_t size) {
   vamlet_launch_wizard_direct(nullptr);

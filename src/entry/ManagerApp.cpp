@@ -19,6 +19,8 @@ ManagerApp::~ManagerApp() {
   }
 }
 
-void ManagerApp::fetchProjectDirectory() { projectDirectory = toForwardSlashes(projectRoot(projectDirectory)); }
+void ManagerApp::fetchProjectDirectory() {
+  projectDirectory = toForwardSlashes(projectRoot(projectDirectory));
+}
 
 }  // namespace plovix

@@ -39,9 +39,13 @@ bool StandardRunSteps::extractRetrievalInfo(ManagerRun& run, const std::string& 
   return run.description->extractRetrievalInfo(ui_, variationPath);
 }
 
-LaunchResult StandardRunSteps::launchPlugin(ManagerRun&) { return plovix::launchPlugin(app_, ui_); }
+LaunchResult StandardRunSteps::launchPlugin(ManagerRun&) {
+  return plovix::launchPlugin(app_, ui_);
+}
 
-bool StandardRunSteps::readDescription(ManagerRun& run) { return run.description->readDescription(ui_); }
+bool StandardRunSteps::readDescription(ManagerRun& run) {
+  return run.description->readDescription(ui_);
+}
 
 std::string StandardRunSteps::resolveSubComponentClash(ManagerRun& run) {
   return plovix::resolveSubComponentClash(ui_, run);
@@ -52,8 +56,12 @@ bool StandardRunSteps::generateVariationFiles(ManagerRun&, const std::string& ou
   return plovix::generateVariationFiles(app_, ui_, outputPath, writeDesign, writeSymbol);
 }
 
-void StandardRunSteps::deleteWorkFiles(ManagerRun& run) { run.description->deleteWorkFiles(); }
+void StandardRunSteps::deleteWorkFiles(ManagerRun& run) {
+  run.description->deleteWorkFiles();
+}
 
-void StandardRunSteps::offerVendorScript(ManagerRun&) { plovix::offerVendorScript(app_, ui_); }
+void StandardRunSteps::offerVendorScript(ManagerRun&) {
+  plovix::offerVendorScript(app_, ui_);
+}
 
 }  // namespace plovix

@@ -28,7 +28,8 @@ void BatchFrontEnd::report(const std::string& text) {
 }
 
 bool BatchFrontEnd::ask(const std::string& text) {
-  std::fprintf(stderr, "question: %s => %s\n", escapeBoxText(text).c_str(), options_.answerOk ? "OK" : "Cancel");
+  std::fprintf(stderr, "question: %s => %s\n", escapeBoxText(text).c_str(),
+               options_.answerOk ? "OK" : "Cancel");
   std::fflush(stderr);
   return options_.answerOk;
 }
@@ -43,8 +44,14 @@ int pagesNotBuilt(WizardPageFrame& page) {
 
 }  // namespace
 
-int BatchFrontEnd::showActionPage(ActionPage& page, PageContext&) { return pagesNotBuilt(page); }
-int BatchFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext&) { return pagesNotBuilt(page); }
-int BatchFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext&) { return pagesNotBuilt(page); }
+int BatchFrontEnd::showActionPage(ActionPage& page, PageContext&) {
+  return pagesNotBuilt(page);
+}
+int BatchFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext&) {
+  return pagesNotBuilt(page);
+}
+int BatchFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext&) {
+  return pagesNotBuilt(page);
+}
 
 }  // namespace plovix

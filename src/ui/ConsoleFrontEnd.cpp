@@ -53,8 +53,14 @@ int pagesNotBuilt(std::FILE* out, WizardPageFrame& page) {
 
 }  // namespace
 
-int ConsoleFrontEnd::showActionPage(ActionPage& page, PageContext&) { return pagesNotBuilt(out_, page); }
-int ConsoleFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext&) { return pagesNotBuilt(out_, page); }
-int ConsoleFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext&) { return pagesNotBuilt(out_, page); }
+int ConsoleFrontEnd::showActionPage(ActionPage& page, PageContext&) {
+  return pagesNotBuilt(out_, page);
+}
+int ConsoleFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext&) {
+  return pagesNotBuilt(out_, page);
+}
+int ConsoleFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext&) {
+  return pagesNotBuilt(out_, page);
+}
 
 }  // namespace plovix

@@ -45,7 +45,8 @@ bool qtFrontEndAvailable() {
 std::unique_ptr<FrontEnd> makeFrontEnd(const FrontEndOptions& options) {
   FrontEndKind kind = options.kind;
   if (kind == FrontEndKind::kAutomatic) {
-    const bool display = !environmentVariable("DISPLAY").empty() || !environmentVariable("WAYLAND_DISPLAY").empty();
+    const bool display =
+        !environmentVariable("DISPLAY").empty() || !environmentVariable("WAYLAND_DISPLAY").empty();
     if (display && qtFrontEndAvailable()) {
       kind = FrontEndKind::kQt;
     } else if (isatty(STDIN_FILENO)) {
