@@ -1,0 +1,76 @@
+// The THDL include file (the variation's function prototype) and the instantiation template.
+#include <string>
+#include <vector>
+
+#include "base/Format.h"
+#include "base/TextHelpers.h"
+#include "hdl/ThdlFileWriter.h"
+
+namespace plovix {
+
+namespace {
+
+// "\tname[..][..]" items of a port list, joined with ",\n".
+std::string prototypePortList(const std::vector<CnxUsedPort>& ports) {
+  std::string list;
+  std::string separator;
+  for (const CnxUsedPort& port : ports) {
+    list += formatText("%s\t%s%s%s", separator.c_str(), port.name.c_str(),
+                       thdlGroupRange(port.width1, port.low1).c_str(),
+                       thdlGroupRange(port.width2, port.low2).c_str());
+    separator = ",\n";
+  }
+  return list;
+}
+
+// "[]" per dimension whose width reads as at least 1.
+std::string bracketSuffix(const CnxUsedPort& port) {
+  std::string suffix;
+  if (atoiText(port.width1) >= 1) suffix += "[]";
+  if (atoiText(port.width2) >= 1) suffix += "[]";
+  return suffix;
+}
+
+}  // namespace
+
+std::string ThdlFileWriter::buildCompanionText() {
+  const std::string inputs = prototypePortList(description_.inputPorts) + "\n)\n\n";
+  std::string parameterClause;
+  if (!description_.parameters.empty()) {
+    std::string separator;
+    parameterClause = "WITH (\n";
+    for (const CnxParameter& parameter : description_.parameters) {
+      parameterClause += formatText("%s\t%s", separator.c_str(), parameter.name.c_str());
+      separator = ",\n";
+    }
+    parameterClause += "\n)\n\n";
+  }
+  return formatText("%s\n\nFUNCTION %s \n(\n%s%sRETURNS (\n%s\n);\n", legalNoticeText().c_str(),
+                    fileName_.c_str(), inputs.c_str(), parameterClause.c_str(),
+                    prototypePortList(description_.outputPorts).c_str());
+}
+
+std::string ThdlFileWriter::buildInstanceText() {
+  std::string results;
+  std::string returns;
+  std::string separator;
+  for (const CnxUsedPort& port : description_.outputPorts) {
+    const std::string suffix = bracketSuffix(port);
+    results += formatText("%s\t%s_sig%s", separator.c_str(), port.name.c_str(), suffix.c_str());
+    returns += formatText("%s\t.%s%s", separator.c_str(), port.name.c_str(), suffix.c_str());
+    separator = ",\n";
+  }
+  std::string assignments;
+  separator.clear();
+  for (const CnxUsedPort& port : description_.inputPorts) {
+    const std::string suffix = bracketSuffix(port);
+    assignments += formatText("%s\t.%s%s = %s_sig%s", separator.c_str(), port.name.c_str(), suffix.c_str(),
+                              port.name.c_str(), suffix.c_str());
+    separator = ",\n";
+  }
+  assignments += "\n)\n";
+  return formatText("(\n%s\n) = %s\t(\n%sRETURNS (\n%s\n);\n", results.c_str(), fileName_.c_str(),
+                    assignments.c_str(), returns.c_str());
+}
+
+}  // namespace plovix
