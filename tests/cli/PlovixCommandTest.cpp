@@ -1,0 +1,106 @@
+// Tests of the plovix command: options, usage errors and the start of a run on bad design file names.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "RunCommand.h"
+#include "TempDir.h"
+
+namespace plovix {
+namespace {
+
+using testing::CommandResult;
+using testing::plovixProgram;
+using testing::runCommand;
+using testing::TempDir;
+
+class PlovixCommandTest : public ::testing::Test {
+ protected:
+  // A batch run in the temp directory with an empty library path and every question cancelled.
+  CommandResult plovix(std::vector<std::string> args) {
+    std::vector<std::string> all = {"--batch",  "--answer",   "cancel", "--project",
+                                    temp.dir(), "--lib-path", ""};
+    all.insert(all.end(), args.begin(), args.end());
+    return runCommand(plovixProgram(), all, temp.dir());
+  }
+  TempDir temp;
+};
+
+TEST_F(PlovixCommandTest, HelpAndVersionExitZero) {
+  const CommandResult help = runCommand(plovixProgram(), {"--help"});
+  EXPECT_EQ(help.exitCode, 0);
+  EXPECT_NE(help.out.find("--plugin-args"), std::string::npos);
+  EXPECT_NE(help.out.find("--batch"), std::string::npos);
+  const CommandResult version = runCommand(plovixProgram(), {"--version"});
+  EXPECT_EQ(version.exitCode, 0);
+  EXPECT_EQ(version.out.rfind("plovix ", 0), 0u);
+}
+
+TEST_F(PlovixCommandTest, UnknownOptionsAndValuesGiveOneUsageLine) {
+  for (const std::vector<std::string>& args : std::vector<std::vector<std::string>>{
+           {"--frobnicate"}, {"--ui", "web"}, {"--language", "ada"}, {"--answer", "maybe"}, {"a.v", "b.v"}}) {
+    const CommandResult result = runCommand(plovixProgram(), args, temp.dir());
+    EXPECT_EQ(result.exitCode, 2) << args[0];
+    EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 1) << result.err;
+    EXPECT_NE(result.err.find("usage: plovix"), std::string::npos);
+  }
+}
+
+TEST_F(PlovixCommandTest, NameWithoutExtension) {
+  const CommandResult r = plovix({"count8"});
+  EXPECT_EQ(r.err,
+            "question: File has no filename extension.\\nDo you want to edit the file anyway? => Cancel\n");
+  EXPECT_EQ(r.exitCode, 1);
+}
+
+TEST_F(PlovixCommandTest, CapitalisedExtension) {
+  const CommandResult r = plovix({"count8.TDF"});
+  EXPECT_EQ(
+      r.err,
+      "question: Illegal filename  extension (.TDF).\\n\\nDo you want to edit the file anyway? => Cancel\n");
+  EXPECT_EQ(r.exitCode, 1);
+}
+
+TEST_F(PlovixCommandTest, MissingFile) {
+  const CommandResult r = plovix({"count8.vhd"});
+  EXPECT_EQ(r.err, "question: File count8.vhd does not exist.\\nDo you want to create the file? => Cancel\n");
+  EXPECT_EQ(r.exitCode, 1);
+}
+
+TEST_F(PlovixCommandTest, ExistingFileThatNoWizardGenerated) {
+  temp.write("plain.v", "module plain;\nendmodule\n");
+  const CommandResult r = plovix({"plain.v"});
+  EXPECT_EQ(
+      r.err,
+      "question: Plovix Plug-In Manager does not recognize plain.v as a wizard-generated\\ncustom modulon "
+      "variation.\\n\\nDo you want to use a wizard to overwrite it? => Cancel\n");
+  EXPECT_EQ(r.exitCode, 1);
+}
+
+TEST_F(PlovixCommandTest, GeneratedFileOfAnUnlistedModulon) {
+  temp.write("g.v", "// modulon wizard: %lpm_gone%\r\n");
+  const CommandResult r = plovix({"g.v"});
+  EXPECT_EQ(r.err.substr(0, r.err.find('\n') + 1),
+            "report: Modulon lpm_gone is not listed in any \\nwizard.lst file in the specified library "
+            "path(s).Wizard launch aborted\n");
+  EXPECT_EQ(r.exitCode, 1);
+}
+
+TEST_F(PlovixCommandTest, WildcardGoesToTheBrowserWithoutAQuestion) {
+  const CommandResult r = plovix({"*.vhd"});
+  EXPECT_EQ(r.err.find("question:"), std::string::npos) << r.err;
+  EXPECT_EQ(r.exitCode, 1);
+}
+
+TEST_F(PlovixCommandTest, CancelledRunChangesNothingOnDisk) {
+  temp.write("plain.v", "module plain;\nendmodule\n");
+  plovix({"plain.v"});
+  plovix({"count8.vhd"});
+  EXPECT_EQ(temp.read("plain.v"), "module plain;\nendmodule\n");
+  int count = 0;
+  for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(temp.dir())) ++count;
+  EXPECT_EQ(count, 1);
+}
+
+}  // namespace
+}  // namespace plovix
