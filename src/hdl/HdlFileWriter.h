@@ -8,6 +8,7 @@
 #include "base/UserInterface.h"
 #include "cnx/CnxDescription.h"
 #include "hdl/NetlistRecords.h"
+#include "hdl/NetlistWireIndex.h"
 
 namespace plovix {
 
@@ -80,6 +81,8 @@ class HdlFileWriter {
   std::string companionExtension_;
   std::string version_;
   CnxDescription& description_;
+  // Finds wires by source key for findWire without scanning the list.
+  NetlistWireIndex wireIndex_;
 };
 
 }  // namespace plovix

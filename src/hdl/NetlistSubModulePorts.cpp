@@ -1,0 +1,82 @@
+// The merged ports of the instantiated sub-modules, with the direction each is used in.
+#include <algorithm>
+#include <string>
+#include <unordered_map>
+
+#include "base/TextHelpers.h"
+#include "hdl/HdlFileWriter.h"
+#include "hdl/NetlistKeys.h"
+
+namespace plovix {
+
+namespace {
+
+bool hasBidirOutput(const CnxDescription& description, const std::string& name) {
+  for (const CnxUsedPort& port : description.outputPorts) {
+    if (port.name == name && port.direction == "BIDIR") return true;
+  }
+  return false;
+}
+
+void mergeEnd(SubModulePort& record, const CnxConnectionEnd& e) {
+  const std::string other = e.peerIsSource ? "OUT" : "IN";
+  if (record.directionWord == other) {
+    record.directionWord = "INOUT";
+  } else if (record.directionWord != "INOUT") {
+    record.directionWord = e.peerIsSource ? "IN" : "OUT";
+  }
+  const long long top1 = atoiText(e.ownWidth1) + atoiText(e.ownLow1);
+  record.width1 = decimalText(std::max(atoiText(record.width1), top1));
+  record.low1 = decimalText(std::min(atoiText(record.low1), atoiText(e.ownLow1)));
+  record.width2 = decimalText(std::max(atoiText(record.width2), atoiText(e.ownWidth2)));
+  record.low2 = decimalText(std::min(atoiText(record.low2), atoiText(e.ownLow2)));
+}
+
+SubModulePort newRecord(const CnxDescription& description, const std::string& moduleName,
+                        const std::string& port, const CnxConnectionEnd& e) {
+  SubModulePort record;
+  record.moduleName = moduleName;
+  record.portName = port;
+  record.width1 = decimalText(atoiText(e.ownWidth1) + atoiText(e.ownLow1));
+  record.low1 = e.ownLow1;
+  record.width2 = e.ownWidth2;
+  record.low2 = e.ownLow2;
+  record.scalar = e.ownWidth1 == "0" && e.ownLow1 == "0" && e.ownWidth2 == "0" && e.ownLow2 == "0";
+  record.directionWord = e.peerIsSource ? "IN" : "OUT";
+  if (e.peerInstance.empty() && hasBidirOutput(description, e.peerPort)) record.directionWord = "INOUT";
+  return record;
+}
+
+}  // namespace
+
+void HdlFileWriter::buildSubModulePorts() {
+  std::unordered_map<std::string, size_t> recordOf;  // module name + '\0' + port name
+  for (const CnxModule& module : description_.modules) {
+    const CnxPortMap* ports = description_.connectionMap.find(module.instanceName);
+    if (ports == nullptr) continue;
+    ports->forEach([&](const std::string& port, const CnxEndList& ends) {
+      const std::string key = module.moduleName + '\0' + port;
+      for (const CnxConnectionEnd& e : ends) {
+        if (const auto it = recordOf.find(key); it != recordOf.end()) {
+          mergeEnd(subModulePorts[it->second], e);
+        } else {
+          recordOf.emplace(key, subModulePorts.size());
+          subModulePorts.push_back(newRecord(description_, module.moduleName, port, e));
+        }
+      }
+    });
+  }
+  for (const CnxUsedPort& mainPort : description_.mainModulePorts) {
+    for (SubModulePort& record : subModulePorts) {
+      if (record.portName != mainPort.name || !equalsIgnoringCase(record.moduleName, signatureName_))
+        continue;
+      record.width1 = mainPort.width1;
+      record.low1 = mainPort.low1;
+      record.width2 = mainPort.width2;
+      record.low2 = mainPort.low2;
+      break;
+    }
+  }
+}
+
+}  // namespace plovix
