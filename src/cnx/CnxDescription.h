@@ -1,5 +1,5 @@
-// The CNX description of a variation: its records, the connection map, the reading state, and the paths of the
-// CNX file and its error log.
+// The CNX description of a variation: its records, the connection map, the reading state, and the paths of
+// the CNX file and its error log.
 #pragma once
 
 #include <cstdint>

@@ -52,11 +52,20 @@ struct SymbolBox {
   std::string font;
 };
 
-enum class SymbolKind : int32_t { kLine = 1, kArc = 2, kCircle = 3, kText = 4, kPinStub = 5, kParameter = 6, kBox = 7 };
+enum class SymbolKind : int32_t {
+  kLine = 1,
+  kArc = 2,
+  kCircle = 3,
+  kText = 4,
+  kPinStub = 5,
+  kParameter = 6,
+  kBox = 7
+};
 
 struct SymbolElement {
   SymbolKind kind = SymbolKind::kLine;
-  std::variant<SymbolLine, SymbolArc, SymbolCircle, SymbolText, SymbolPinStub, SymbolParameter, SymbolBox> record;
+  std::variant<SymbolLine, SymbolArc, SymbolCircle, SymbolText, SymbolPinStub, SymbolParameter, SymbolBox>
+      record;
 };
 
 }  // namespace plovix

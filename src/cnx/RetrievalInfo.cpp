@@ -1,0 +1,158 @@
+// The retrieval info: the CNX statements embedded as comment lines at the end of a design file, and the
+// CNX file rebuilt from a variation file's header and retrieval info in edit mode.
+#include <array>
+
+#include "base/ErrorTable.h"
+#include "base/Format.h"
+#include "base/OutputKinds.h"
+#include "base/PathText.h"
+#include "base/Report.h"
+#include "base/TextFile.h"
+#include "base/TextHelpers.h"
+#include "cnx/CnxDescription.h"
+#include "cnx/CnxLineReader.h"
+
+namespace plovix {
+
+namespace {
+
+constexpr std::string_view kRetrievalMarker = "Retrieval info:";
+
+// The statements whose lines the retrieval info carries; the header carries the others.
+constexpr std::array<std::string_view, 6> kCopiedStatements = {
+    "LIBRARY:", "PARAMETER:", "CONSTANT:", "PRIVATE:", "USED_PORT:", "CONNECT:"};
+
+std::string retrievalInfoBanner(const std::string& leader) {
+  return formatText(
+      "%s ============================================================\n%s CNX file retrieval info\n%s "
+      "============================================================\n",
+      leader.c_str(), leader.c_str(), leader.c_str());
+}
+
+bool isCopiedStatement(std::string_view trimmedLine) {
+  const std::string_view firstWord = trimmedLine.substr(0, trimmedLine.find_first_of(" \t"));
+  for (std::string_view statement : kCopiedStatements) {
+    if (firstWord == statement) return true;
+  }
+  return false;
+}
+
+std::string retrievalInfoLine(const std::string& leader, const std::string& trimmedLine) {
+  return formatText("%s %s %s\n", leader.c_str(), std::string(kRetrievalMarker).c_str(), trimmedLine.c_str());
+}
+
+// The tokens of a variation file's header lines: comment leader, keyword, value, and for module lines an
+// instance name.
+struct HeaderTokens {
+  std::string leader, keyword, value, instance;
+  bool extraText = false;  // text after the last token a line of its kind may carry
+};
+
+constexpr std::string_view kHeaderDelimiters = "\t ;";
+
+HeaderTokens headerTokens(std::string_view line, bool withInstance) {
+  std::string rest(line);
+  HeaderTokens tokens;
+  tokens.leader = splitFirstToken(rest, kHeaderDelimiters);
+  tokens.keyword = splitFirstToken(rest, kHeaderDelimiters);
+  tokens.value = splitFirstToken(rest, kHeaderDelimiters);
+  if (withInstance) tokens.instance = splitFirstToken(rest, kHeaderDelimiters);
+  tokens.extraText = !rest.empty();
+  return tokens;
+}
+
+// The value of a header line "leader keyword value", or `otherwise` when the line does not read so. Extra
+// text after the value is ignored with warning 32.
+std::string headerValue(UserInterface& ui, std::string_view line, const std::string& leader,
+                        std::string_view keyword, std::string_view otherwise) {
+  const HeaderTokens tokens = headerTokens(line, false);
+  if (tokens.leader != leader || tokens.keyword != keyword || tokens.value.empty())
+    return std::string(otherwise);
+  if (tokens.extraText) reportError(ui, 32);
+  return tokens.value;
+}
+
+// The CNX line of a module line "leader MODULE: name [instance]", or empty when the line is none.
+std::string moduleLine(UserInterface& ui, std::string_view line, const std::string& leader) {
+  const HeaderTokens tokens = headerTokens(line, true);
+  if (tokens.leader != leader || tokens.keyword != "MODULE:" || tokens.value.empty()) return {};
+  if (tokens.extraText) reportError(ui, 32);
+  const std::string operands = tokens.instance.empty() ? tokens.value : tokens.value + " " + tokens.instance;
+  return formatText("%s %s\n", "MODULE:", operands.c_str());
+}
+
+// The statement that a retrieval-info line carries: the text after the marker and the blank that follows it.
+std::string retrievedStatement(std::string_view line, size_t markerAt) {
+  const size_t start = std::min(line.size(), markerAt + kRetrievalMarker.size() + 1);
+  return std::string(line.substr(start)) + "\n";
+}
+
+}  // namespace
+
+bool CnxDescription::writeRetrievalInfo(UserInterface& ui, const std::string& outputExtension,
+                                        std::string& out) {
+  std::string text;
+  int errorNumber = 0;
+  if (!readTextFile(cnxPath, text, errorNumber)) {
+    reportFileErrno(ui, errorNumber, cnxPath);
+    return false;
+  }
+  commentLeader = commentLeaderOfExtension(outputExtension);
+  out += retrievalInfoBanner(commentLeader);
+  TextLineCursor lines(text);
+  std::string_view line;
+  while (lines.next(line)) {
+    const std::string trimmed = trimText(line);
+    if (isCopiedStatement(trimmed)) out += retrievalInfoLine(commentLeader, trimmed);
+  }
+  return true;
+}
+
+bool CnxDescription::extractRetrievalInfo(UserInterface& ui, const std::string& variationPath) {
+  if (readModulonNameOfFile(variationPath) == kNotWizardMarker) return false;
+  std::string text;
+  int errorNumber = 0;
+  if (!readTextFile(variationPath, text, errorNumber)) {
+    reportFileErrno(ui, errorNumber, variationPath);
+    return false;
+  }
+  commentLeader = commentLeaderOfExtension(splitPath(variationPath, PathPart::kExtension));
+  TextLineCursor lines(text);
+  std::string_view line;
+  lines.next(line);  // the signature line
+  if (!lines.next(line)) line = {};
+  if (headerValue(ui, line, commentLeader, "GENERATION:", "INVALID") != "STANDARD") return true;
+
+  if (!lines.next(line)) line = {};
+  const std::string fileVersion = headerValue(ui, line, commentLeader, "VERSION:", kVersionUnknown);
+  if (fileVersion == kVersionUnknown) {
+    reportError(ui, 31, std::string(kManagerName));
+    return false;
+  }
+  version = fileVersion;
+  std::string cnx = formatText("%s %s\n", "VERSION:", version.c_str());
+  bool moduleFound = false;
+  while (lines.next(line)) {
+    const std::string module = moduleLine(ui, line, commentLeader);
+    if (!module.empty()) {
+      cnx += module;
+      moduleFound = true;
+    } else if (const size_t at = line.find(kRetrievalMarker); at != std::string_view::npos) {
+      cnx += retrievedStatement(line, at);
+    }
+  }
+
+  const std::string path = pathWithoutExtension(variationPath) + ".cnx";
+  if (!writeTextFile(path, cnx, errorNumber)) {
+    reportFileErrno(ui, errorNumber, path);
+    return false;
+  }
+  cnxPath = path;
+  if (!moduleFound) {
+    reportError(ui, 30, std::string(kManagerName));
+    return false;
+  }
+  return true;
+}
+
+}  // namespace plovix

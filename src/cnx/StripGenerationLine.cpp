@@ -1,0 +1,33 @@
+// Edit mode with a CNX file left from an earlier run: the file loses its generation line before the plug-in
+// starts from it.
+#include "base/Report.h"
+#include "base/TextFile.h"
+#include "cnx/CnxDescription.h"
+#include "cnx/CnxLineReader.h"
+
+namespace plovix {
+
+bool CnxDescription::stripGenerationLine(UserInterface& ui, const std::string& cnxFilePath) {
+  reset();
+  std::string text;
+  int errorNumber = 0;
+  if (!readTextFile(cnxFilePath, text, errorNumber)) {
+    reportFileErrno(ui, errorNumber, cnxFilePath);
+    return false;
+  }
+  TextLineCursor lines(text);
+  if (!readCnxLine(*this, lines)) return true;
+  generationMode = takeGenerationMode(*this);
+  if (generationMode == "INVALID") return true;
+  std::string rest;
+  rest.reserve(text.size());
+  std::string_view line;
+  while (lines.next(line)) {
+    rest.append(line);
+    rest += '\n';
+  }
+  if (!writeTextFile(cnxFilePath, rest, errorNumber)) reportFileErrno(ui, errorNumber, cnxFilePath);
+  return true;
+}
+
+}  // namespace plovix

@@ -1,0 +1,136 @@
+// SYMBOL: lines: the element keyword, each element's operands, and the element records they produce.
+#include "cnx/CnxMessages.h"
+#include "cnx/CnxStatements.h"
+
+namespace plovix {
+
+namespace {
+
+bool lineStyle(CnxOperands& in, std::string& out) {
+  return in.keyword(out, {"DOTTED", "DENSE", "BROKEN", "DASHED", "BUS", "SOLID"}, true, cnxmsg::kNoLineStyle);
+}
+
+bool lineWidth(CnxOperands& in, std::string& out) {
+  return in.keyword(out, {"THICK", "THIN"}, true, cnxmsg::kNoLineWidth);
+}
+
+bool orientation(CnxOperands& in, std::string& out) {
+  return in.keyword(out, {"HORIZ", "VERT"}, true, cnxmsg::kNoOrientation);
+}
+
+bool stubType(CnxOperands& in, std::string& out) {
+  return in.keyword(out, {"IN", "OUT", "BIDIR"}, false, cnxmsg::kNoStubType);
+}
+
+bool logical(CnxOperands& in, bool& out) {
+  std::string text;
+  if (!in.keyword(text, {"TRUE", "FALSE"}, true, cnxmsg::kNoLogical)) return false;
+  out = text == "TRUE";
+  return true;
+}
+
+// LINE and RECT.
+bool readLine(CnxOperands& in, bool isRect, SymbolElement& element) {
+  SymbolLine line;
+  line.isRect = isRect;
+  if (!in.number(line.x1) || !in.number(line.y1) || !in.number(line.x2) || !in.number(line.y2)) return false;
+  if (!lineStyle(in, line.style) || !lineWidth(in, line.width) || !in.endOfLine()) return false;
+  element = {SymbolKind::kLine, std::move(line)};
+  return true;
+}
+
+bool readArc(CnxOperands& in, SymbolElement& element) {
+  SymbolArc arc;
+  for (int32_t* field :
+       {&arc.centerX, &arc.centerY, &arc.startX, &arc.startY, &arc.endX, &arc.endY, &arc.radius}) {
+    if (!in.number(*field)) return false;
+  }
+  if (!in.endOfLine()) return false;
+  element = {SymbolKind::kArc, arc};
+  return true;
+}
+
+bool readCircle(CnxOperands& in, SymbolElement& element) {
+  SymbolCircle circle;
+  if (!in.number(circle.centerX) || !in.number(circle.centerY) || !in.number(circle.radius)) return false;
+  if (!logical(in, circle.filled) || !in.endOfLine()) return false;
+  element = {SymbolKind::kCircle, circle};
+  return true;
+}
+
+bool readText(CnxOperands& in, SymbolElement& element) {
+  SymbolText text;
+  in.word(text.text);
+  if (!in.number(text.x) || !in.number(text.y) || !orientation(in, text.orientation)) return false;
+  in.word(text.font);
+  if (!in.endOfLine()) return false;
+  element = {SymbolKind::kText, std::move(text)};
+  return true;
+}
+
+bool readPinStub(CnxOperands& in, SymbolElement& element) {
+  SymbolPinStub stub;
+  if (!in.number(stub.x) || !in.number(stub.y) || !stubType(in, stub.stubType)) return false;
+  in.word(stub.pinName);
+  if (!in.number(stub.textX) || !in.number(stub.textY)) return false;
+  // An absent label repeats the pin name; the empty quoted label stays empty (the pin name is then hidden).
+  if (in.take() || in.emptyQuoted()) {
+    stub.label = in.token();
+  } else {
+    stub.label = stub.pinName;
+  }
+  if (!orientation(in, stub.orientation)) return false;
+  in.word(stub.font);
+  if (!in.endOfLine()) return false;
+  element = {SymbolKind::kPinStub, std::move(stub)};
+  return true;
+}
+
+bool readParameter(CnxOperands& in, SymbolElement& element) {
+  SymbolParameter parameter;
+  // Without its text the line is dropped without a log entry.
+  if (!in.take()) return false;
+  parameter.text = in.token();
+  in.word(parameter.font);
+  if (!in.endOfLine()) return false;
+  element = {SymbolKind::kParameter, std::move(parameter)};
+  return true;
+}
+
+bool readBox(CnxOperands& in, SymbolElement& element) {
+  // Any BOX line, even one that is dropped, asks for the drawn symbol instead of the generated one.
+  in.description().defaultSymbolBox = false;
+  SymbolBox box;
+  for (int32_t* field : {&box.sheetWidth, &box.sheetHeight, &box.nameX, &box.nameY}) {
+    if (!in.number(*field)) return false;
+  }
+  in.word(box.font);
+  if (!in.endOfLine()) return false;
+  element = {SymbolKind::kBox, std::move(box)};
+  return true;
+}
+
+bool readElement(CnxOperands& in, SymbolElement& element) {
+  in.take();
+  const std::string keyword = in.token();
+  if (keyword == "LINE") return readLine(in, false, element);
+  if (keyword == "RECT") return readLine(in, true, element);
+  if (keyword == "ARC") return readArc(in, element);
+  if (keyword == "CIRCLE") return readCircle(in, element);
+  if (keyword == "TEXT") return readText(in, element);
+  if (keyword == "PINSTUB") return readPinStub(in, element);
+  if (keyword == "PARAMETER") return readParameter(in, element);
+  if (keyword == "BOX") return readBox(in, element);
+  return in.fail(cnxmsg::kUnknownSymbolElement);
+}
+
+}  // namespace
+
+bool readSymbolStatement(CnxOperands& in) {
+  SymbolElement element;
+  if (!readElement(in, element)) return false;
+  in.description().symbolElements.push_back(std::move(element));
+  return true;
+}
+
+}  // namespace plovix
