@@ -1,0 +1,66 @@
+// The VHDL component declarations of the sub-modules a variation instantiates.
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+#include "base/Format.h"
+#include "base/TextHelpers.h"
+#include "hdl/VhdlFileWriter.h"
+#include "hdl/VhdlTextRules.h"
+
+namespace plovix {
+
+namespace {
+
+// The generic lines of a component: constants (names in lower case) and parameters that belong to the
+// instance or to every instance.
+std::string componentGenericText(const CnxDescription& description, const std::string& instance) {
+  std::string text;
+  const char* prefix = "\tGENERIC (\n";
+  for (const CnxConstant& constant : description.constants) {
+    if (constant.target != instance && !constant.target.empty()) continue;
+    text += formatText("%s\t\t%s\t\t: %s", prefix, toLowerText(constant.name).c_str(),
+                       vhdlGenericType(constant).c_str());
+    prefix = ";\n";
+  }
+  for (const CnxParameter& parameter : description.parameters) {
+    if (parameter.target != instance && !parameter.target.empty()) continue;
+    text += formatText("%s\t\t%s\t\t: %s", prefix, parameter.name.c_str(), parameter.name.c_str());
+    prefix = ";\n";
+  }
+  if (!text.empty()) text += "\n\t);\n";
+  return text;
+}
+
+}  // namespace
+
+std::string VhdlFileWriter::componentDeclarationsText() {
+  buildSubModulePorts();
+  std::unordered_map<std::string, std::vector<size_t>> portsByModule;
+  for (size_t i = 0; i < subModulePorts.size(); ++i) portsByModule[subModulePorts[i].moduleName].push_back(i);
+
+  std::string text;
+  std::unordered_set<std::string> declared;
+  for (const CnxModule& module : description_.modules) {
+    if (!declared.insert(module.moduleName).second) continue;
+    std::string portLines;
+    const auto ports = portsByModule.find(module.moduleName);
+    if (ports != portsByModule.end()) {
+      const char* separator = "";
+      for (size_t i : ports->second) {
+        const SubModulePort& port = subModulePorts[i];
+        portLines +=
+            formatText("%s\t\t\t%s\t: %s %s", separator, port.portName.c_str(), port.directionWord.c_str(),
+                       vhdlTypeText(port.width1, port.low1, port.width2, port.low2).c_str());
+        separator = ";\n";
+      }
+    }
+    text += formatText("\n\n\tCOMPONENT %s\n%s\tPORT (\n%s\n\t);\n\tEND COMPONENT;\n\n",
+                       module.moduleName.c_str(),
+                       componentGenericText(description_, module.instanceName).c_str(), portLines.c_str());
+  }
+  return text;
+}
+
+}  // namespace plovix
