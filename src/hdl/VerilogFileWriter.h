@@ -22,11 +22,22 @@ class VerilogFileWriter : public HdlFileWriter {
   std::string buildBlackBoxText();
 
  private:
-  std::string portListText();
-  std::string portDeclarationText();
-  std::string parameterBlockText();
+  // The module's port names, then its port declarations.
+  std::string portListText() const;
+  std::string portDeclarationText() const;
+  // The module's own parameters; empty when it has none.
+  std::string parameterBlockText() const;
+  // The internal wires with their values, then the wires of the variation's outputs. Builds the netlist.
   std::string wireText();
-  std::string instanceText();
+  // One instance of every sub-module with its port connections and parameter settings.
+  std::string instancesText() const;
 };
+
+// Text rules the Verilog sections share.
+std::string verilogDirectionWord(const std::string& direction);
+std::string verilogParameterValue(const std::string& type, const std::string& value);
+std::string verilogConstantValue(const std::string& drivingPort, const std::string& width);
+// A width as an integer; a width that is not a decimal number counts as 0.
+long long verilogWidthNumber(const std::string& width);
 
 }  // namespace plovix
