@@ -48,6 +48,8 @@ std::string WizardCatalog::resolveAlias(const std::string& name) const {
   return it == aliases_.end() ? name : it->second;
 }
 
-bool WizardCatalog::isNotWizardMarker(const std::string& text) { return trimRight(text) == kNotWizardMarker; }
+bool WizardCatalog::isNotWizardMarker(const std::string& text) {
+  return trimRight(text) == kNotWizardMarker;
+}
 
 }  // namespace plovix
