@@ -116,7 +116,8 @@ std::string makerNotice() {
   return "plovix is free software; the files it generates are yours to use and share.";
 }
 
-std::string invalidInformationBlock(const std::string& line, const std::string& file, const std::string& message) {
+std::string invalidInformationBlock(const std::string& line, const std::string& file,
+                                    const std::string& message) {
   return "Ignored invalid information block in line " + line + " in file " + file + " -- " + message;
 }
 

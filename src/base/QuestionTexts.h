@@ -41,6 +41,7 @@ std::string xmlParsingError();
 std::string makerNotice();
 
 // Catalog load: an entry's information block that the XML reader rejected, with the reader's message.
-std::string invalidInformationBlock(const std::string& line, const std::string& file, const std::string& message);
+std::string invalidInformationBlock(const std::string& line, const std::string& file,
+                                    const std::string& message);
 
 }  // namespace plovix::questions
