@@ -1,0 +1,167 @@
+// The .cnxerr log, compared whole: faults in every statement kind, in the first two lines and at the end of
+// the file, and what happens around the log file itself.
+#include "CnxFixture.h"
+
+namespace plovix::testing {
+namespace {
+
+using ErrorLogTest = CnxFixture;
+
+TEST_F(ErrorLogTest, FaultsInEveryStatementKindAreLoggedInFileOrderAndTheLinesDropped) {
+  const std::string text = kCnxHead +
+                           "// a comment line\n"
+                           "MODULE: lpm_counter\n"
+                           "LIBRARY: lpm\n"
+                           "LIBRARY: 9lpm lpm.components\n"
+                           "MODULE:\n"
+                           "MODULE: m inst extra more\n"
+                           "PARAMETER: 1width NUMERIC 8\n"
+                           "PARAMETER: width numeric 8\n"
+                           "PARAMETER: width NUMERIC 8 4target\n"
+                           "CONSTANT: c STRING \"a b\" t extra tokens\n"
+                           "PRIVATE: p\n"
+                           "PRIVATE: p STRING v t\n"
+                           "USED_PORT:\n"
+                           "USED_PORT: q 8 0 0 OUTPUT NODEFVAL\n"
+                           "USED_PORT: q 8 0 0 0 OUTPUT\n"
+                           "USED_PORT: q 8 0 0 0 OUTPUT NODEFVAL tag more text\n"
+                           "CONNECT: q 8 0 0\n"
+                           "CONNECT: q 8 0 0 0\n"
+                           "CONNECT: q 8 0 0 0 GND 1 0 0\n"
+                           "CONNECT: q 8 0 0 0 GND 1 0 0 0 x\n"
+                           "   FOO: bar  \n"
+                           "SYMBOL: BOGUS 1 2\n"
+                           "PARAMETER: width NUMERIC 8\n";
+  EXPECT_FALSE(read(text));
+  EXPECT_EQ(log(),
+            banner() + entry(5, "", "Valid identifier not found.") +
+                entry(6, "lpm.components", "Identifiers cannot begin with a non-alphabetic character.") +
+                entry(7, "", "Valid identifier not found.") +
+                entry(8, "more", "Extra tokens found at the end of line.") +
+                entry(9, "NUMERIC 8", "Identifiers cannot begin with a non-alphabetic character.") +
+                entry(10, "8", "Valid variable/constant type not found.") +
+                entry(11, "", "Identifiers cannot begin with a non-alphabetic character.") +
+                entry(12, "tokens", "Extra tokens found at the end of line.") +
+                entry(13, "", "Valid variable/constant type not found.") +
+                entry(14, "", "Extra tokens found at the end of line.") +
+                entry(15, "", "Valid identifier not found.") +
+                entry(16, "", "Valid port type (input, output, etc.) not found.") +
+                entry(17, "", "Missing value string") +
+                entry(18, "text", "Extra tokens found at the end of line.") +
+                entry(19, "", "Missing value string") + entry(20, "", "Valid identifier not found.") +
+                entry(21, "", "Missing value string") +
+                entry(22, "", "Extra tokens found at the end of line.") +
+                entry(23, "bar", "Unknown line identifier encountered") +
+                entry(24, "1 2", "Unknown symbol element (line, circle, etc.) identifier encountered."));
+  EXPECT_EQ(ui.boxes, std::vector<std::string>{error33()});
+  // Only the accepted lines left records.
+  EXPECT_EQ(description.modules.size(), 1u);
+  EXPECT_TRUE(description.libraries.empty());
+  EXPECT_EQ(description.parameters.size(), 1u);
+  EXPECT_TRUE(description.constants.empty());
+  EXPECT_TRUE(description.privates.empty());
+  EXPECT_TRUE(description.outputPorts.empty());
+  EXPECT_TRUE(description.connectionMap.empty());
+  EXPECT_TRUE(description.symbolElements.empty());
+}
+
+TEST_F(ErrorLogTest, FaultsInSymbolLinesAreLoggedWithTheirOwnMessages) {
+  const std::string text = kCnxHead +
+                           "MODULE: m\n"
+                           "SYMBOL:\n"
+                           "SYMBOL: LINE 0 0 10 x\n"
+                           "SYMBOL: LINE 0 0 10 10 solid\n"
+                           "SYMBOL: RECT 0 0 10 10 SOLID FAT\n"
+                           "SYMBOL: ARC 1 2 3 4 5 6\n"
+                           "SYMBOL: CIRCLE 1 2 3 YES\n"
+                           "SYMBOL: TEXT t 1 2 DIAGONAL font\n"
+                           "SYMBOL: PINSTUB 0 0 a 10 10 a\n"
+                           "SYMBOL: PARAMETER\n"
+                           "SYMBOL: BOX 100 100 5\n"
+                           "SYMBOL: LINE 0 0 10 10 SOLID THIN extra words\n"
+                           "SYMBOL: CIRCLE 1 2 3 TRUE\n";
+  EXPECT_FALSE(read(text));
+  EXPECT_EQ(log(),
+            banner() + entry(4, "", "Unknown symbol element (line, circle, etc.) identifier encountered.") +
+                entry(5, "", "Valid numeric value not found.") + entry(6, "", "Valid line style not found.") +
+                entry(7, "", "Valid line width not found.") + entry(8, "", "Valid numeric value not found.") +
+                entry(9, "", "Valid logical value not found.") +
+                entry(10, "font", "Valid orientation not found.") +
+                entry(11, "10 10 a", "Valid stub type not found.") +
+                entry(13, "", "Valid numeric value not found.") +
+                entry(14, "words", "Extra tokens found at the end of line."));
+  // The PARAMETER element without its text is dropped silently; the dropped BOX still asks for a drawn
+  // symbol.
+  EXPECT_FALSE(description.defaultSymbolBox);
+  ASSERT_EQ(description.symbolElements.size(), 1u);
+  EXPECT_EQ(description.symbolElements[0].kind, SymbolKind::kCircle);
+}
+
+TEST_F(ErrorLogTest, FirstTwoLinesMustBeTheGenerationAndVersionLines) {
+  struct Case {
+    std::string text, log;
+  };
+  const Case cases[] = {
+      {"", entry(0, "", "Unexpected end of file encountered")},
+      {"GENERATION: STANDARD extra words\n", entry(1, "extra words", "Unexpected end of file encountered")},
+      {"GENERATION: standard\nVERSION: WM1.0\nMODULE: m\n",
+       entry(1, "", "No valid wizard signature (generation mode ) found")},
+      {"\nGENERATION: STANDARD\n", entry(1, "", "No valid wizard signature (generation mode ) found")},
+      {"// GENERATION: STANDARD\n",
+       entry(1, "GENERATION: STANDARD", "No valid wizard signature (generation mode ) found")},
+      {"GENERATION: SYMBOL_ONLY\nVERSION: WM3.0 x\nMODULE: m\n", entry(2, "x", "Unknown version number")},
+      {"GENERATION: STANDARD\n\nVERSION: WM1.0\n", entry(2, "", "Unknown version number")},
+      // A WM2.0 body has no reader: the read fails with the banner alone.
+      {"GENERATION: STANDARD\nVERSION: WM2.0\nMODULE: m\n", ""},
+      {kCnxHead + "// only\n\n   \n// comments\n",
+       entry(6, "comments", "No module name found in the CNX file")},
+      {kCnxHead, entry(2, "", "No module name found in the CNX file")},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.text);
+    ui.boxes.clear();
+    description.reset();
+    EXPECT_FALSE(read(c.text));
+    EXPECT_EQ(log(), banner() + c.log);
+    EXPECT_EQ(ui.boxes, std::vector<std::string>{error33()});
+  }
+}
+
+TEST_F(ErrorLogTest, ValidFileLeavesTheBannerAloneInTextMode) {
+  temp.write("var.cnxerr", "an older log that must go\n");
+  EXPECT_TRUE(read("GENERATION: SYMBOL_ONLY trailing words\nVERSION: WM1.0 more\r\nMODULE: m\r\n"));
+  EXPECT_EQ(temp.read("var.cnxerr"),
+            "*******************************************\r\n"
+            "**       CNX File Error Log              **\r\n"
+            "*******************************************\r\n\r\n");
+  EXPECT_TRUE(ui.boxes.empty());
+  EXPECT_EQ(description.generationMode, "SYMBOL_ONLY");
+  EXPECT_EQ(description.version, "WM1.0");
+}
+
+TEST_F(ErrorLogTest, MissingCnxFileIsAFileErrorAfterTheLogWasCreated) {
+  description.setCnxPath(temp.path("none.cnx"));
+  EXPECT_FALSE(description.readDescription(ui));
+  EXPECT_EQ(ui.boxes,
+            std::vector<std::string>{"report: File " + temp.path("none.cnx") + " could not be opened"});
+  EXPECT_EQ(fromTextMode(temp.read("none.cnxerr")), banner());
+}
+
+TEST_F(ErrorLogTest, LogThatCannotBeCreatedIsReportedAtEveryFaultAndNoEntryIsWritten) {
+  temp.write("dir/var.cnx", kCnxHead + "FOO:\nMODULE: m\n");
+  // A directory where the log should be: it can neither be created nor appended to.
+  temp.write("dir/var.cnxerr/keep", "");
+  description.setCnxPath(temp.path("dir/var.cnx"));
+  EXPECT_FALSE(description.readDescription(ui));
+  // The log stays to be created, so the fault of line 3 tries again and its entry is lost; reading goes on.
+  const std::vector<std::string> expected = {
+      "report: Unknown file error encountered", "report: Unknown file error encountered",
+      "report: Error in CNX file format.\n\nError messages are listed in file\n" +
+          temp.path("dir/var.cnxerr") + ".\n\nCan't create the custom modulon variation file(s)"};
+  EXPECT_EQ(ui.boxes, expected);
+  EXPECT_TRUE(description.errorLogFresh);
+  EXPECT_EQ(description.modules.size(), 1u);
+}
+
+}  // namespace
+}  // namespace plovix::testing
