@@ -1,0 +1,42 @@
+// Choosing between the window, the terminal prompts and no questions.
+#include "DialogChoice.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <iostream>
+
+#ifdef PLOVIX_WIZARD_QT
+#include "WindowDialog.h"
+#endif
+
+namespace plovix::wizard {
+
+namespace {
+
+bool hasDisplay() {
+  const char* x11 = std::getenv("DISPLAY");
+  const char* wayland = std::getenv("WAYLAND_DISPLAY");
+  return (x11 != nullptr && *x11 != 0) || (wayland != nullptr && *wayland != 0);
+}
+
+}  // namespace
+
+ValueDialog* DialogChoice::dialogFor(const PluginArguments& arguments) {
+  if (!arguments.assignments.empty()) return nullptr;
+#ifdef PLOVIX_WIZARD_QT
+  if (hasDisplay()) {
+    dialog_ = makeWindowDialog();
+    return dialog_.get();
+  }
+#else
+  (void)hasDisplay;
+#endif
+  if (isatty(STDIN_FILENO)) {
+    dialog_ = std::make_unique<TerminalPrompts>(std::cin, std::cerr);
+    return dialog_.get();
+  }
+  return nullptr;
+}
+
+}  // namespace plovix::wizard

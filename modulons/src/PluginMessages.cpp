@@ -1,0 +1,95 @@
+// The plug-in's texts in one place.
+#include "PluginMessages.h"
+
+namespace plovix::wizard {
+
+namespace {
+std::string number(long long value) {
+  return std::to_string(value);
+}
+}  // namespace
+
+std::string numberRangeText(long long minimum, long long maximum) {
+  return "a whole number from " + number(minimum) + " to " + number(maximum);
+}
+
+std::string missingModulonText(const std::string& knownModulons) {
+  return "No modulon given: the command line needs -m followed by one of: " + knownModulons;
+}
+
+std::string unknownModulonText(const std::string& name, const std::string& knownModulons) {
+  return "There is no modulon named \"" + name + "\"; this plug-in offers: " + knownModulons;
+}
+
+std::string missingOutputText() {
+  return "No output file given: the command line needs the variation's path";
+}
+
+std::string strayArgumentText(const std::string& argument) {
+  return "Unexpected argument \"" + argument + "\": extra arguments are NAME=VALUE pairs";
+}
+
+std::string unknownSettingText(const std::string& modulon, const std::string& name,
+                               const std::string& known) {
+  return modulon + " has no setting named \"" + name + "\"; its settings are: " + known;
+}
+
+std::string badValueText(const std::string& name, const std::string& value, const std::string& allowed) {
+  return "\"" + value + "\" is not allowed for " + name + "; allowed values: " + allowed;
+}
+
+std::string cannotWriteText(const std::string& path, const std::string& reason) {
+  return "Cannot write " + path + ": " + reason;
+}
+
+std::string modulusTooLargeText(long long modulus, long long width) {
+  return "LPM_MODULUS=" + number(modulus) + " does not fit LPM_WIDTH=" + number(width) +
+         "; allowed values: a whole number from 0 to " + number(1LL << width);
+}
+
+std::string valueTooWideText(const std::string& name, long long value, long long width) {
+  return name + "=" + number(value) + " does not fit LPM_WIDTH=" + number(width) +
+         "; allowed values: a whole number from 0 to " + number((1LL << width) - 1);
+}
+
+std::string tooManyDecodesText(long long decodes, long long width) {
+  return "LPM_DECODES=" + number(decodes) + " does not fit LPM_WIDTH=" + number(width) +
+         "; allowed values: a whole number from 1 to " + number(1LL << width);
+}
+
+std::string tooManyWordsText(long long words, long long widthad) {
+  return "LPM_NUMWORDS=" + number(words) + " does not fit LPM_WIDTHAD=" + number(widthad) +
+         "; allowed values: a whole number from 0 to " + number(1LL << widthad);
+}
+
+std::string noCompareOutputText() {
+  return "At least one of ALB, AEB, AGB, AGEB, ANEB and ALEB must be YES";
+}
+
+std::string noShiftOutputText() {
+  return "At least one of Q and SHIFTOUT must be YES";
+}
+
+std::string promptHeadingText(const std::string& modulon, const std::string& title, const std::string& path) {
+  return modulon + " (" + title + ") for " + path +
+         "\nPress Enter to keep the value in brackets, type < to go back, or end the input to cancel.\n";
+}
+
+std::string promptText(const std::string& name, const std::string& question, const std::string& allowed,
+                       const std::string& current) {
+  return name + ": " + question + " (" + allowed + ") [" + current + "]: ";
+}
+
+std::string finishPromptText() {
+  return "Finish, go back or cancel? (finish, back, cancel) [finish]: ";
+}
+
+std::string cancelledText() {
+  return "Cancelled: no description was written.";
+}
+
+std::string dialogTitleText(const std::string& modulon, const std::string& title) {
+  return modulon + " - " + title;
+}
+
+}  // namespace plovix::wizard

@@ -1,0 +1,51 @@
+// One value a modulon asks for: its name, its question, and the values it allows.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace plovix::wizard {
+
+struct Setting {
+  std::string name;                  // as written in NAME=VALUE pairs and PRIVATE: lines
+  std::string question;              // what the prompt and the dialog show
+  std::vector<std::string> choices;  // the allowed words; empty for a whole number
+  long long minimum = 0;             // range of a whole number
+  long long maximum = 0;
+  std::string defaultValue;
+
+  bool isNumber() const { return choices.empty(); }
+};
+
+// A modulon's current values, by setting name.
+using SettingValues = std::map<std::string, std::string>;
+
+// The value in its canonical spelling (choices match without regard to case), or nothing when the text is
+// not allowed.
+std::optional<std::string> acceptValue(const Setting& setting, const std::string& text);
+
+// "UP, DOWN, UNUSED" or "a whole number from 1 to 32".
+std::string allowedValuesText(const Setting& setting);
+
+// The value of a whole-number setting (0 when absent).
+long long numberValue(const SettingValues& values, const std::string& name);
+
+}  // namespace plovix::wizard
+
+namespace plovix::wizard {
+
+// The three kinds of settings the modulons use.
+Setting numberSetting(const std::string& name, const std::string& question, long long minimum,
+                      long long maximum, long long defaultValue);
+Setting choiceSetting(const std::string& name, const std::string& question, std::vector<std::string> choices,
+                      const std::string& defaultValue);
+Setting yesNoSetting(const std::string& name, const std::string& question, bool defaultValue);
+
+// Whether a YES/NO setting is YES.
+bool isYes(const SettingValues& values, const std::string& name);
+// The text value of a setting (empty when absent).
+std::string textValue(const SettingValues& values, const std::string& name);
+
+}  // namespace plovix::wizard
