@@ -19,7 +19,9 @@ VerilogFileWriter::VerilogFileWriter(UserInterface& ui, std::string basePath, st
 }
 
 std::string VerilogFileWriter::buildDesignText() {
-  const std::string body = wireText() + instancesText();
+  // The wires build the netlist that the instances read.
+  std::string body = wireText();
+  body += instancesText();
   return formatText("%s\n%s\nmodule %s (\n%s%s%s\n%s\nendmodule\n\n", headerText().c_str(),
                     legalNoticeText().c_str(), fileName_.c_str(), portListText().c_str(),
                     portDeclarationText().c_str(), parameterBlockText().c_str(), body.c_str());

@@ -1,0 +1,26 @@
+// Reads one description of the shared HDL test corpus (tests/corpus/<name>.cnx) the way a run reads it.
+#pragma once
+
+#include <string>
+
+#include "TempDir.h"
+#include "base/UserInterface.h"
+#include "cnx/CnxDescription.h"
+
+namespace plovix::testing {
+
+inline std::string corpusDir() { return std::string(PLOVIX_SOURCE_DIR) + "/tests/corpus/"; }
+
+// Copies the case's .cnx file into `work` (the reader writes its error log beside it) and reads it.
+inline bool readCorpusCase(const std::string& name, const TempDir& work, UserInterface& ui,
+                           CnxDescription& description) {
+  work.write(name + ".cnx", TempDir::readFile(corpusDir() + name + ".cnx"));
+  description.setCnxPath(work.path(name + ".cnx"));
+  return description.readDescription(ui);
+}
+
+// The cases, in the order the tests report them.
+inline const char* const kCorpusCases[] = {"counter",     "two_modules", "constants", "inverted",
+                                           "three_feeds", "rows_2d",     "main_ports"};
+
+}  // namespace plovix::testing
