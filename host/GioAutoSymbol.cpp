@@ -4,6 +4,8 @@
 // left, outputs and then bidirectional pins on the right, one row every 16 pixels; each pin is a 24-pixel
 // stub (drawn as a bus when its name has an index range) ending at the pin's point, with its name inside the
 // box; the parameter text (text type 55), one line per parameter, below the box. All texts use "Arial,8".
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -25,6 +27,14 @@ constexpr int kPad = 6;
 constexpr int kGap = 16;
 constexpr int kMinBoxWidth = 64;
 constexpr int kMinBoxHeight = 32;
+
+// True when the directory part of `fileName` (the working directory when it has none) is a directory.
+bool directoryExists(const std::string& fileName) {
+  const size_t slash = fileName.find_last_of('/');
+  const std::string directory = slash == std::string::npos ? "." : fileName.substr(0, slash + 1);
+  struct stat info {};
+  return stat(directory.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+}
 
 int roundUp(int value, int step) {
   return (value + step - 1) / step * step;
@@ -145,6 +155,8 @@ extern "C" short gio_sym_auto_gen_begin(gio_error_context* error, const char* fi
     d->unitMode = 1;
     if (fileName == nullptr || *fileName == '\0')
       reportGioError(error, 3, "No file name for the symbol");
+    else if (!directoryExists(fileName))
+      reportGioError(error, 4, "The symbol's directory does not exist");
     else
       d->setFileName(fileName);
   }

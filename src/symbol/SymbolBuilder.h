@@ -10,16 +10,35 @@ namespace plovix {
 
 class SymbolBuilder {
  public:
-  // `basePath` is the output directory followed by the variation's base name; the symbol is basePath + ".sym".
+  // `basePath` is the output directory followed by the variation's base name; the symbol is basePath +
+  // ".sym".
   SymbolBuilder(UserInterface& ui, std::string basePath, const CnxDescription& description);
 
-  // Builds the symbol through the drawing library and writes it; true when it was written.
+  // Builds the symbol through the drawing library, which writes the file. The drawing library's failures are
+  // not shown to the user, so this is always true.
   bool buildSymbol();
 
  private:
-  UserInterface& ui_;
+  void buildAutomaticSymbol(const std::string& fileName);
+  void buildDrawnSymbol(const std::string& fileName);
+  // Keeps a newly made instance unless the drawing library reported an error while making it.
+  void keepInstance(short made, int errorCode);
+
+  void drawElement(const SymbolElement& element);
+  void drawLine(const SymbolLine& line);
+  void drawSegment(int a, int b, int c, int d, const SymbolLine& look);
+  void drawArc(const SymbolArc& arc);
+  void drawCircle(const SymbolCircle& circle);
+  // The text routine: one text record, connected; returns its record handle.
+  short drawText(const SymbolText& text);
+  void drawPinStub(const SymbolPinStub& stub);
+  void drawParameterBlock(const SymbolParameter& parameter);
+  void drawBox(const SymbolBox& box);
+
+  [[maybe_unused]] UserInterface& ui_;
   std::string basePath_;
   const CnxDescription& description_;
+  short instance_ = 0;  // the drawing library's instance, 0 when none
 };
 
 }  // namespace plovix

@@ -1,0 +1,27 @@
+// Choosing between the automatic and the drawn symbol, and taking over the drawing instance.
+#include "symbol/SymbolBuilder.h"
+
+#include "plovix_host.h"
+
+namespace plovix {
+
+SymbolBuilder::SymbolBuilder(UserInterface& ui, std::string basePath, const CnxDescription& description)
+    : ui_(ui), basePath_(std::move(basePath)), description_(description) {}
+
+bool SymbolBuilder::buildSymbol() {
+  const std::string fileName = basePath_ + ".sym";
+  if (description_.defaultSymbolBox)
+    buildAutomaticSymbol(fileName);
+  else
+    buildDrawnSymbol(fileName);
+  return true;
+}
+
+void SymbolBuilder::keepInstance(short made, int errorCode) {
+  instance_ = made;
+  if (errorCode == 0) return;
+  if (instance_ != 0) gio_db_delete_instance(instance_, 0);
+  instance_ = 0;
+}
+
+}  // namespace plovix
