@@ -9,14 +9,25 @@
 
 namespace plovix::testing {
 
-inline std::string corpusDir() { return std::string(PLOVIX_SOURCE_DIR) + "/tests/corpus/"; }
+inline std::string corpusDir() {
+  return std::string(PLOVIX_SOURCE_DIR) + "/tests/corpus/";
+}
+
+// The modulon name the corpus's variations are written with; the "@" ports of main_ports belong to it.
+inline constexpr const char* kCorpusSignature = "pvx_counter";
+
+// Writes a CNX text into `work` under `name` and reads it.
+inline bool readCnxText(const std::string& name, const std::string& text, const TempDir& work,
+                        UserInterface& ui, CnxDescription& description) {
+  work.write(name + ".cnx", text);
+  description.setCnxPath(work.path(name + ".cnx"));
+  return description.readDescription(ui);
+}
 
 // Copies the case's .cnx file into `work` (the reader writes its error log beside it) and reads it.
 inline bool readCorpusCase(const std::string& name, const TempDir& work, UserInterface& ui,
                            CnxDescription& description) {
-  work.write(name + ".cnx", TempDir::readFile(corpusDir() + name + ".cnx"));
-  description.setCnxPath(work.path(name + ".cnx"));
-  return description.readDescription(ui);
+  return readCnxText(name, TempDir::readFile(corpusDir() + name + ".cnx"), work, ui, description);
 }
 
 // The cases, in the order the tests report them.

@@ -1,0 +1,4 @@
+counter	counter_inst (
+	.clock ( clock_sig ),
+	.q ( q_sig )
+	);

@@ -1,0 +1,5 @@
+inverted	inverted_inst (
+	.a ( a_sig ),
+	.b ( b_sig ),
+	.y ( y_sig )
+	);
