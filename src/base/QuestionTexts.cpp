@@ -121,4 +121,8 @@ std::string invalidInformationBlock(const std::string& line, const std::string& 
   return "Ignored invalid information block in line " + line + " in file " + file + " -- " + message;
 }
 
+std::string invalidSymbolFile(const std::string& path, int line) {
+  return "File " + path + " is not a valid symbol file (line " + std::to_string(line) + ").";
+}
+
 }  // namespace plovix::questions

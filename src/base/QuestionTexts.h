@@ -44,4 +44,7 @@ std::string makerNotice();
 std::string invalidInformationBlock(const std::string& line, const std::string& file,
                                     const std::string& message);
 
+// plovix --render-symbol: a symbol file whose text cannot be read, with the first bad line.
+std::string invalidSymbolFile(const std::string& path, int line);
+
 }  // namespace plovix::questions
