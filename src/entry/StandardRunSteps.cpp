@@ -8,7 +8,7 @@
 namespace plovix {
 
 PageContext StandardRunSteps::pageContext(ManagerRun& run) {
-  return PageContext{ui_, *run.catalog, app_.corner, app_.projectDirectory};
+  return PageContext{ui_, *run.catalog, app_.corner, app_.projectDirectory, run.outputPath()};
 }
 
 void StandardRunSteps::loadCatalog(ManagerRun& run) {

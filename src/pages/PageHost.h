@@ -19,6 +19,9 @@ struct PageContext {
   const WizardCatalog& catalog;
   WindowCorner& corner;
   std::string projectDirectory;
+  // The run's output path (directory + file title + extension) when the page is shown; the batch front end
+  // fills the pages from it.
+  std::string outputPath;
 };
 
 class PageHost {

@@ -1,0 +1,153 @@
+// Opening the modulon page, Browse..., Back and the checks on Next.
+#include "pages/ModulonSelectionPage.h"
+
+#include "base/FileSystem.h"
+#include "base/OutputKinds.h"
+#include "base/PathText.h"
+#include "base/QuestionTexts.h"
+#include "base/Report.h"
+#include "base/TextHelpers.h"
+#include "pages/PageHost.h"
+#include "pages/PagePaths.h"
+#include "pages/PageTexts.h"
+
+namespace plovix {
+
+void ModulonSelectionPage::open(PageContext& context) {
+  openFrame();
+  enableControl(kControlFinish, false);
+  setDefaultButton(kControlNext);
+
+  tree.build(context.catalog.entries(), modulonName);
+  if (tree.selectedByName()) focusControl = kControlModulonTree;
+
+  outputText = trimRight(outputText);
+  if (outputText.empty()) outputText = directory;
+  editText = shownPath(outputText);
+
+  libraryDirectories.clear();
+  for (const std::string& library : context.catalog.userLibraryDirectories()) {
+    if (!library.empty()) libraryDirectories.push_back(shownPath(library));
+  }
+
+  const int kind = outputKindIndexOfExtension(extension);
+  languageIndex = kind < 0 ? 0 : kind;
+}
+
+std::string ModulonSelectionPage::checkedExtension() const {
+  return std::string(kOutputKinds[static_cast<size_t>(languageIndex)].designExtension);
+}
+
+SaveFileRequest ModulonSelectionPage::browseRequest(PageContext& context) const {
+  SaveFileRequest request;
+  request.title = pagetexts::kSaveDialogTitle;
+  request.filter = pagetexts::kSaveDialogFilter;
+  const std::string text = trimText(editText);
+  std::string splitDirectory;
+  std::string splitFile;
+  if (!text.empty() &&
+      findInDirectory(context.ui, text, absoluteDirectory(directory), splitDirectory, splitFile)) {
+    request.initialDirectory = splitDirectory;
+    request.fileName = splitFile;
+  } else {
+    request.initialDirectory = absoluteDirectory(directory);
+  }
+  return request;
+}
+
+void ModulonSelectionPage::applyBrowseChoice(const std::string& chosenPath) {
+  editText = shownPath(chosenPath);
+}
+
+bool ModulonSelectionPage::pressBack(PageContext& context, const std::optional<PixelRect>& window) {
+  outputText = editText;
+  extension = checkedExtension();
+  modulonName = tree.selectedText();
+  storePosition(context.corner, window);
+  result = kPageBack;
+  return true;
+}
+
+bool ModulonSelectionPage::pressNext(PageContext& context, const std::optional<PixelRect>& window) {
+  if (!WizardPageFrame::pressNext(context, window)) return false;
+  outputText = editText;
+  return true;
+}
+
+bool ModulonSelectionPage::validatePage(PageContext& context) {
+  UserInterface& ui = context.ui;
+  const std::string text = trimText(editText);
+  if (text.empty()) {
+    reportError(ui, 15);
+    focusControl = kControlOutputName;
+    return false;
+  }
+  if (tree.selected() == ModulonTree::kNoItem || tree.hasChildren(tree.selected())) {
+    reportError(ui, 25);
+    focusControl = kControlModulonTree;
+    return false;
+  }
+  modulonName = tree.selectedText();
+
+  std::string splitDirectory;
+  std::string fileName;
+  if (!findInDirectory(ui, text, absoluteDirectory(directory), splitDirectory, fileName)) {
+    reportError(ui, 23);
+    focusControl = kControlOutputName;
+    return false;
+  }
+  if (!isDirectory(splitDirectory)) {
+    if (!ui.ask(questions::createDirectory(splitDirectory))) {
+      focusControl = kControlOutputName;
+      return false;
+    }
+    if (!createOneDirectory(splitDirectory)) {
+      reportError(ui, 22, splitDirectory);
+      focusControl = kControlOutputName;
+      return false;
+    }
+  }
+  directory = splitDirectory;
+
+  if (fileName.empty()) {
+    reportError(ui, 26);
+    focusControl = kControlOutputName;
+    return false;
+  }
+  if (fileName.find_first_of(" \t") != std::string::npos) {
+    reportError(ui, 13);
+    focusControl = kControlOutputName;
+    return false;
+  }
+  const std::string typedExtension = splitPath(fileName, PathPart::kExtension);
+  if (typedExtension.empty()) {
+    extension = checkedExtension();
+    baseName = fileName;
+  } else if (isOutputExtension(typedExtension)) {
+    extension = typedExtension;
+    baseName = fileName.substr(0, fileName.size() - typedExtension.size());
+  } else {
+    reportError(ui, 12);
+    focusControl = kControlOutputName;
+    return false;
+  }
+
+  if (!context.catalog.supports2D(modulonName) && !offerThdlFallback(ui, extension)) return false;
+  if (!checkOutputFileName(ui, extension, baseName)) {
+    focusControl = kControlOutputName;
+    return false;
+  }
+
+  const std::string path = directory + baseName + extension;
+  if (fileExists(path)) {
+    if (!isWritable(path)) {
+      reportError(ui, 24, path);
+      focusControl = kControlOutputName;
+      return false;
+    }
+    if (!ui.ask(questions::overwriteFile(path))) return false;
+  }
+  return true;
+}
+
+}  // namespace plovix
