@@ -1,0 +1,125 @@
+// Every corpus description's generated Verilog is compiled by Icarus, linted by Verilator and read by Yosys,
+// with stub modules for the sub-modules; the black box is checked with the instantiation template.
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+#include <cstdlib>
+#include <fstream>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "../corpus/CorpusCase.h"
+#include "RecordingInterface.h"
+#include "TempDir.h"
+#include "base/TextHelpers.h"
+#include "hdl/NetlistKeys.h"
+#include "hdl/VerilogFileWriter.h"
+
+namespace plovix {
+namespace {
+
+using testing::RecordingInterface;
+using testing::TempDir;
+
+struct ToolRun {
+  int exitCode = -1;
+  std::string output;
+};
+
+ToolRun runIn(const TempDir& dir, const std::string& command) {
+  const std::string log = dir.path("tool.log");
+  const int status =
+      std::system(("cd '" + dir.dir() + "' && (" + command + ") > '" + log + "' 2>&1").c_str());
+  return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, TempDir::readFile(log)};
+}
+
+bool toolInstalled(const std::string& tool) {
+  return std::system(("command -v " + tool + " > /dev/null 2>&1").c_str()) == 0;
+}
+
+// (case, tool) -> the part of the message the tool gives for the case, from the corpus's list.
+std::map<std::pair<std::string, std::string>, std::string> knownLimits() {
+  std::map<std::pair<std::string, std::string>, std::string> limits;
+  std::ifstream in(testing::corpusDir() + "verilog_limits.txt");
+  for (std::string line; std::getline(in, line);) {
+    if (line.empty() || line[0] == '#') continue;
+    const size_t blank = line.find(' ');
+    const size_t colon = line.find(": ", blank);
+    if (blank == std::string::npos || colon == std::string::npos) continue;
+    limits[{line.substr(0, blank), line.substr(blank + 1, colon - blank - 1)}] = line.substr(colon + 2);
+  }
+  return limits;
+}
+
+std::string stubFiles() {
+  std::string files;
+  for (const char* stub : {"pvx_counter", "pvx_shifter", "pvx_gate", "pvx_mux"}) {
+    files += " '" + testing::corpusDir() + "stubs/" + stub + ".v'";
+  }
+  return files;
+}
+
+// The commands that check `files` with `top` as the top module, by tool.
+std::vector<std::pair<std::string, std::string>> toolCommands(const std::string& top,
+                                                              const std::string& files) {
+  return {{"iverilog", "iverilog -o checked.vvp -s " + top + " " + files},
+          {"verilator", "verilator --lint-only --top-module " + top + " " + files},
+          {"yosys", "yosys -q -p 'read_verilog " + files + "; hierarchy -top " + top + "'"}};
+}
+
+// A module around the instantiation template that declares the *_sig nets it connects.
+std::string templateBench(const CnxDescription& description, const std::string& templateText) {
+  std::string text = "module bench;\n";
+  auto declare = [&](const CnxUsedPort& port) {
+    text += "\twire " + rangeText(port.width1, port.low1) + rangeText(port.width2, port.low2) + " " +
+            toLowerText(port.name) + "_sig;\n";
+  };
+  for (const CnxUsedPort& port : description.inputPorts) declare(port);
+  for (const CnxUsedPort& port : description.outputPorts) declare(port);
+  return text + templateText + "endmodule\n";
+}
+
+class VerilogTools : public ::testing::TestWithParam<const char*> {
+ protected:
+  void SetUp() override {
+    for (const char* tool : {"iverilog", "verilator", "yosys"}) {
+      if (!toolInstalled(tool)) GTEST_SKIP() << tool << " is not installed";
+    }
+  }
+};
+
+TEST_P(VerilogTools, GeneratedFilesAreReadByEveryTool) {
+  const std::string name = GetParam();
+  TempDir work;
+  RecordingInterface ui;
+  CnxDescription description;
+  ASSERT_TRUE(testing::readCorpusCase(name, work, ui, description));
+  VerilogFileWriter writer(ui, work.path(name), testing::kCorpusSignature, description);
+  ASSERT_TRUE(writer.writeDesignFile());
+  ASSERT_TRUE(writer.writeBlackBoxFile());
+  ASSERT_TRUE(writer.writeInstanceFile());
+  work.write("bench.v", templateBench(description, work.read(name + "_inst.v")));
+
+  const auto limits = knownLimits();
+  for (const auto& [tool, command] : toolCommands(name, name + ".v" + stubFiles())) {
+    const ToolRun run = runIn(work, command);
+    const auto limit = limits.find({name, tool});
+    if (limit == limits.end()) {
+      EXPECT_EQ(run.exitCode, 0) << tool << " rejects " << name << ".v:\n" << run.output;
+    } else {
+      EXPECT_NE(run.exitCode, 0) << tool << " now accepts " << name << ".v; drop it from verilog_limits.txt";
+      EXPECT_NE(run.output.find(limit->second), std::string::npos) << tool << " says:\n" << run.output;
+    }
+  }
+  for (const auto& [tool, command] : toolCommands("bench", "bench.v " + name + "_bb.v")) {
+    const ToolRun run = runIn(work, command);
+    EXPECT_EQ(run.exitCode, 0) << tool << " rejects the black box with the template of " << name << ":\n"
+                               << run.output;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Corpus, VerilogTools, ::testing::ValuesIn(testing::kCorpusCases));
+
+}  // namespace
+}  // namespace plovix
