@@ -23,6 +23,7 @@ struct Modulon {
   // Adds the modulon's statements (modules, constants, ports, connections, symbol) to the description.
   std::function<void(const SettingValues&, OutputLanguage, DescriptionText&)> describe;
 
+  // The setting of that name, the case of its letters aside.
   const Setting* findSetting(const std::string& settingName) const;
   // Every setting at its default value.
   SettingValues defaultValues() const;

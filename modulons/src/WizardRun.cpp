@@ -45,7 +45,7 @@ void presetFromDescription(const Modulon& modulon, const std::string& cnxPath, S
     if (setting == nullptr) continue;
     // A stored value this version no longer allows keeps the default.
     if (const std::optional<std::string> value = acceptValue(*setting, stored.value))
-      values[stored.name] = *value;
+      values[setting->name] = *value;
   }
 }
 
@@ -79,7 +79,7 @@ std::string presetValues(const Modulon& modulon, const PluginArguments& argument
     if (setting == nullptr) return unknownSettingText(modulon.name, name, settingNamesText(modulon));
     const std::optional<std::string> value = acceptValue(*setting, text);
     if (!value) return badValueText(name, text, allowedValuesText(*setting));
-    values[name] = *value;
+    values[setting->name] = *value;
   }
   return "";
 }

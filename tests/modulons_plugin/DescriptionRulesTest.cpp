@@ -1,0 +1,149 @@
+// Every modulon, in every language and with every choice, describes a variation that the HDL writers turn
+// into text the tools accept: ports declared and connected consistently, and none of the forms that the
+// specified HDL text cannot carry.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+#include <sstream>
+
+#include "ModulonLibrary.h"
+#include "WizardRun.h"
+
+namespace plovix::wizard {
+namespace {
+
+struct Port {
+  std::vector<std::string> bounds;
+  std::string direction;
+};
+
+std::vector<std::string> words(const std::string& line) {
+  std::istringstream in(line);
+  std::vector<std::string> out;
+  for (std::string w; in >> w;) out.push_back(w);
+  return out;
+}
+
+bool isConstant(std::string ref) {
+  if (!ref.empty() && ref[0] == '!') ref.erase(0, 1);
+  if (ref == "VCC" || ref == "GND") return true;
+  return !ref.empty() && ref.find_first_not_of("-0123456789") == std::string::npos;
+}
+
+// Checks one description; failures name the modulon and the values.
+void checkDescription(const std::string& cnx, OutputLanguage language, const std::string& context) {
+  std::map<std::string, Port> ports;
+  std::set<std::string> instances, connected, drivenSubPorts;
+  std::string mainModule;
+  for (std::istringstream in(cnx); !in.eof();) {
+    std::string line;
+    std::getline(in, line);
+    const std::vector<std::string> w = words(line);
+    if (w.empty()) continue;
+    if (w[0] == "MODULE:") {
+      if (mainModule.empty()) mainModule = w[1];
+      instances.insert(w.size() > 2 ? w[2] : mainModule);
+    } else if (w[0] == "USED_PORT:") {
+      ASSERT_GE(w.size(), 8u) << context << line;
+      EXPECT_NE(w[1][0], '@') << context << line;
+      EXPECT_TRUE(w[7] == "NODEFVAL" || w[7] == "GND" || w[7] == "VCC") << context << line;
+      if (w[2] != "0" && w[4] != "0") {
+        EXPECT_NE(language, OutputLanguage::kVerilog)
+            << context << "two-dimensional port in Verilog: " << line;
+      }
+      ports[w[1]] = Port{{w[2], w[3], w[4], w[5]}, w[6]};
+    } else if (w[0] == "PARAMETER:") {
+      ASSERT_GE(w.size(), 5u) << context
+                              << "a parameter without a target is passed to every instance: " << line;
+      EXPECT_EQ(instances.count(w[4]), 0u) << context << "parameter passed to a sub-module: " << line;
+    } else if (w[0] == "CONNECT:") {
+      ASSERT_EQ(w.size(), 11u) << context << line;
+      const std::string& driven = w[1];
+      const std::string& driver = w[6];
+      const std::vector<std::string> drivenBounds(w.begin() + 2, w.begin() + 6);
+      const std::vector<std::string> driverBounds(w.begin() + 7, w.begin() + 11);
+      EXPECT_EQ(driven.find('!'), std::string::npos) << context << line;
+      if (driven.find('@') != std::string::npos) {
+        EXPECT_TRUE(drivenSubPorts.insert(driven).second) << context << "sub-module port fed twice: " << line;
+      } else {
+        ASSERT_TRUE(ports.count(driven)) << context << "undeclared port: " << line;
+        EXPECT_EQ(ports[driven].direction, "OUTPUT") << context << line;
+        EXPECT_EQ(ports[driven].bounds, drivenBounds) << context << line;
+        EXPECT_EQ(driver[0] == '!', false) << context << "inverted sub-module output: " << line;
+        connected.insert(driven);
+      }
+      if (isConstant(driver)) {
+        EXPECT_FALSE(driver == "VCC" && drivenBounds[2] != "0") << context << "VCC driving a bus: " << line;
+        EXPECT_EQ(drivenBounds[3], "0") << context << "constant feeding a slice: " << line;
+      } else if (driver.find('@') == std::string::npos) {
+        const std::string name = driver[0] == '!' ? driver.substr(1) : driver;
+        ASSERT_TRUE(ports.count(name)) << context << "undeclared port: " << line;
+        EXPECT_EQ(ports[name].direction, "INPUT") << context << line;
+        EXPECT_EQ(ports[name].bounds, driverBounds) << context << line;
+        connected.insert(name);
+      }
+      EXPECT_FALSE(drivenBounds[2] != "0" && driverBounds[2] == "0" && driverBounds[0] == "0" &&
+                   !isConstant(driver))
+          << context << "one bit driving a bus: " << line;
+    }
+  }
+  for (const auto& [name, port] : ports)
+    EXPECT_TRUE(connected.count(name)) << context << "unused port " << name;
+}
+
+// Defaults, then every choice of every choice setting and both ends of every number range, one at a time;
+// combinations the modulon itself refuses are left out.
+std::vector<SettingValues> variationsOf(const Modulon& modulon) {
+  std::vector<SettingValues> out{modulon.defaultValues()};
+  for (const Setting& setting : modulon.settings) {
+    std::vector<std::string> candidates = setting.choices;
+    if (setting.isNumber()) candidates = {std::to_string(setting.minimum), std::to_string(setting.maximum)};
+    for (const std::string& candidate : candidates) {
+      SettingValues values = modulon.defaultValues();
+      values[setting.name] = candidate;
+      if (!modulon.check(values)) out.push_back(values);
+    }
+  }
+  return out;
+}
+
+TEST(DescriptionRulesTest, EveryModulonInEveryLanguage) {
+  for (const Modulon& modulon : bundledModulons()) {
+    EXPECT_FALSE(modulon.check(modulon.defaultValues())) << modulon.name << ": defaults must fit together";
+    for (const OutputLanguage language :
+         {OutputLanguage::kThdl, OutputLanguage::kVhdl, OutputLanguage::kVerilog}) {
+      for (const SettingValues& values : variationsOf(modulon)) {
+        std::string context = modulon.name + " (language " + std::to_string(static_cast<int>(language)) + ")";
+        for (const auto& [name, value] : values) context += " " + name + "=" + value;
+        context += ": ";
+        checkDescription(descriptionFor(modulon, values, language), language, context);
+      }
+    }
+  }
+}
+
+TEST(DescriptionRulesTest, MuxDataIsRowsExceptInVerilog) {
+  const Modulon mux = muxModulon();
+  SettingValues values = mux.defaultValues();
+  values["LPM_SIZE"] = "5";
+  values["LPM_WIDTH"] = "3";
+  const std::string rows = descriptionFor(mux, values, OutputLanguage::kVhdl);
+  EXPECT_NE(rows.find("USED_PORT: data 5 0 3 0 INPUT NODEFVAL \"data[4..0][2..0]\""), std::string::npos);
+  EXPECT_NE(rows.find("CONSTANT: LPM_WIDTHS NUMERIC 3\n"), std::string::npos);
+  const std::string flat = descriptionFor(mux, values, OutputLanguage::kVerilog);
+  EXPECT_NE(flat.find("USED_PORT: data 0 0 15 0 INPUT NODEFVAL \"data[14..0]\""), std::string::npos);
+  EXPECT_NE(flat.find("USED_PORT: sel 0 0 3 0 INPUT"), std::string::npos);
+}
+
+TEST(DescriptionRulesTest, CompositeWiresTheCounterIntoTheComparator) {
+  const Modulon composite = countCompareModulon();
+  const std::string cnx = descriptionFor(composite, composite.defaultValues(), OutputLanguage::kVhdl);
+  EXPECT_NE(cnx.find("MODULE: lpm_counter counter\nMODULE: lpm_compare compare\n"), std::string::npos);
+  EXPECT_NE(cnx.find("CONNECT: compare@dataa 0 0 8 0 counter@q 0 0 8 0\n"), std::string::npos);
+  EXPECT_NE(cnx.find("CONNECT: compare@datab 0 0 8 0 10 0 0 0 0\n"), std::string::npos);
+  EXPECT_NE(cnx.find("CONSTANT: LPM_TYPE STRING \"LPM_COMPARE\" compare\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace plovix::wizard
