@@ -1,0 +1,37 @@
+// The pieces of a plug-in launch: the program lookup, the completed command line and the wait.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/UserInterface.h"
+#include "base/WindowCorner.h"
+#include "entry/ManagerApp.h"
+#include "platform/ChildProcess.h"
+#include "platform/PositionChannel.h"
+#include "platform/QuitSignals.h"
+
+namespace plovix {
+
+// The path of the program a command line names: found in the modulon's directory `home` or in the
+// directory of the running program, as D + T without extension; otherwise the token without its extension.
+std::string locatePluginProgram(UserInterface& ui, const std::string& program, const std::string& home);
+
+// The full command line of the run's plug-in, from the catalog command line `command`: program path,
+// arguments and %-codes, the quoted output path, " -n ", " -symbol ", the extra arguments and, unless the
+// run is a direct launch, the window options with `threadId`.
+std::string pluginCommandLine(ManagerApp& app, UserInterface& ui, const std::string& command, long threadId);
+
+// How a wait ended: the exit code, and the quit signal that ended it (0 for none).
+struct PluginWaitResult {
+  int32_t exitCode = 0;
+  int quitSignal = 0;
+};
+
+// Waits for the started plug-in while the user interface handles its events, storing in `corner` the window
+// corner the plug-in reports. Quitting (processEvents false, or SIGINT/SIGTERM) kills the plug-in; the exit
+// code is then 2. The channel and the quit signals' hold must exist before the plug-in starts.
+PluginWaitResult waitForPlugin(ChildProcess& child, PositionChannel& channel, QuitSignals& quitSignals,
+                               WindowCorner& corner, UserInterface& ui);
+
+}  // namespace plovix

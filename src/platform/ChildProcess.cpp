@@ -1,0 +1,119 @@
+// Starting a program with posix_spawn, watching it through a pidfd, and collecting or killing it.
+#include "platform/ChildProcess.h"
+
+#include <signal.h>
+#include <spawn.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+
+#include "platform/ProgramSearch.h"
+
+extern char** environ;
+
+namespace plovix {
+
+namespace {
+
+// The attributes of a spawn: a new process group, an empty signal mask and default quit signals.
+class SpawnAttributes {
+ public:
+  SpawnAttributes() {
+    posix_spawnattr_init(&attributes_);
+    sigset_t none;
+    sigemptyset(&none);
+    sigset_t defaults;
+    sigemptyset(&defaults);
+    sigaddset(&defaults, SIGINT);
+    sigaddset(&defaults, SIGTERM);
+    sigaddset(&defaults, SIGPIPE);
+    posix_spawnattr_setsigmask(&attributes_, &none);
+    posix_spawnattr_setsigdefault(&attributes_, &defaults);
+    posix_spawnattr_setpgroup(&attributes_, 0);
+    posix_spawnattr_setflags(&attributes_,
+                             POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETPGROUP);
+  }
+  ~SpawnAttributes() { posix_spawnattr_destroy(&attributes_); }
+  SpawnAttributes(const SpawnAttributes&) = delete;
+  SpawnAttributes& operator=(const SpawnAttributes&) = delete;
+  const posix_spawnattr_t* get() const { return &attributes_; }
+
+ private:
+  posix_spawnattr_t attributes_;
+};
+
+int32_t exitCodeOf(int status) {
+  return WIFEXITED(status) ? WEXITSTATUS(status) : 2;
+}
+
+}  // namespace
+
+ChildProcess::~ChildProcess() {
+  kill();
+  closeDescriptor();
+}
+
+bool ChildProcess::start(const std::vector<std::string>& arguments, int& errorNumber) {
+  errorNumber = 0;
+  if (arguments.empty()) {
+    errorNumber = ENOENT;
+    return false;
+  }
+  const char* searchPath = std::getenv("PATH");
+  const std::string program = findProgram(arguments[0], searchPath == nullptr ? "/usr/bin:/bin" : searchPath);
+  if (program.empty()) {
+    errorNumber = ENOENT;
+    return false;
+  }
+  std::vector<char*> argv;
+  for (const std::string& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
+  argv.push_back(nullptr);
+
+  SpawnAttributes attributes;
+  pid_t pid = -1;
+  const int result = posix_spawn(&pid, program.c_str(), nullptr, attributes.get(), argv.data(), environ);
+  if (result != 0) {
+    errorNumber = result;
+    return false;
+  }
+  pid_ = pid;
+  reaped_ = false;
+  pidFd_ = static_cast<int>(syscall(SYS_pidfd_open, pid, 0));
+  return true;
+}
+
+bool ChildProcess::hasEnded(int32_t& exitCode) {
+  if (!reaped_) {
+    int status = 0;
+    const pid_t result = waitpid(pid_, &status, WNOHANG);
+    if (result == 0) return false;
+    reaped_ = true;
+    // A status the system could not give back (the child was collected elsewhere) counts as Cancel.
+    exitCode_ = result == pid_ ? exitCodeOf(status) : 2;
+    closeDescriptor();
+  }
+  exitCode = exitCode_;
+  return true;
+}
+
+void ChildProcess::kill() {
+  if (reaped_) return;
+  ::kill(-pid_, SIGKILL);
+  ::kill(pid_, SIGKILL);
+  int status = 0;
+  while (waitpid(pid_, &status, 0) < 0 && errno == EINTR) {
+  }
+  reaped_ = true;
+  exitCode_ = 2;
+  closeDescriptor();
+}
+
+void ChildProcess::closeDescriptor() {
+  if (pidFd_ >= 0) close(pidFd_);
+  pidFd_ = -1;
+}
+
+}  // namespace plovix

@@ -1,0 +1,44 @@
+// A started program: its start in a process group of its own, the descriptor that signals its end, its exit.
+#pragma once
+
+#include <sys/types.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace plovix {
+
+class ChildProcess {
+ public:
+  ChildProcess() = default;
+  // A process still running when its owner goes is ended, so none outlives the wait.
+  ~ChildProcess();
+  ChildProcess(const ChildProcess&) = delete;
+  ChildProcess& operator=(const ChildProcess&) = delete;
+
+  // Starts arguments[0], found by findProgram on PATH, with the caller's environment, working directory and
+  // no inherited signal mask. On failure gives false and sets `errorNumber`.
+  bool start(const std::vector<std::string>& arguments, int& errorNumber);
+
+  // A descriptor that becomes readable when the process ends; -1 when the system offers none.
+  int endDescriptor() const { return pidFd_; }
+
+  // True once the process has ended, with its exit code: the exit status, or 2 when a signal ended it.
+  bool hasEnded(int32_t& exitCode);
+
+  // Ends the process and everything in its group at once (SIGKILL) and collects it.
+  void kill();
+
+  pid_t pid() const { return pid_; }
+
+ private:
+  void closeDescriptor();
+
+  pid_t pid_ = -1;
+  int pidFd_ = -1;
+  bool reaped_ = true;
+  int32_t exitCode_ = 0;
+};
+
+}  // namespace plovix
