@@ -1,7 +1,10 @@
-// Implementation of the batch front end.
+// Implementation of the batch front end: boxes as lines on standard error, pages filled from the options.
 #include "ui/BatchFrontEnd.h"
 
 #include <cstdio>
+
+#include "base/FileSystem.h"
+#include "base/PathText.h"
 
 namespace plovix {
 
@@ -36,22 +39,54 @@ bool BatchFrontEnd::ask(const std::string& text) {
 
 namespace {
 
-int pagesNotBuilt(WizardPageFrame& page) {
-  std::fprintf(stderr, "plovix: the wizard pages are not built yet; the run ends here.\n");
-  page.result = kPageCancel;
-  return kPageCancel;
+// A page that is still open after Next (a check failed and was reported) ends with Cancel, so that a batch
+// run never waits for input.
+int finishWithNext(WizardPageFrame& page, PageContext& context) {
+  if (!page.pressNext(context, std::nullopt)) page.pressCancel();
+  return page.result;
+}
+
+// The file the run names when the page is shown, as a full path; empty when the run names none.
+std::string designFileName(const PageContext& context) {
+  if (splitPath(context.outputPath, PathPart::kBaseName).empty()) return {};
+  return fullPath(context.outputPath);
 }
 
 }  // namespace
 
-int BatchFrontEnd::showActionPage(ActionPage& page, PageContext&) {
-  return pagesNotBuilt(page);
+int batchLanguageIndex(const std::string& language) {
+  if (language == "thdl") return 0;
+  if (language == "vhdl") return 1;
+  if (language == "verilog") return 2;
+  return -1;
 }
-int BatchFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext&) {
-  return pagesNotBuilt(page);
+
+int BatchFrontEnd::showActionPage(ActionPage& page, PageContext& context) {
+  page.open();
+  page.createChecked = !options_.modulon.empty();
+  return finishWithNext(page, context);
 }
-int BatchFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext&) {
-  return pagesNotBuilt(page);
+
+int BatchFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext& context) {
+  page.open(context);
+  page.editText = designFileName(context);
+  if (!options_.modulon.empty()) {
+    int item = page.tree.findByText(options_.modulon);
+    if (item == ModulonTree::kNoItem)
+      item = page.tree.findByText(context.catalog.resolveAlias(options_.modulon));
+    page.tree.select(item);
+  }
+  const int language = batchLanguageIndex(options_.language);
+  if (language >= 0) page.languageIndex = language;
+  return finishWithNext(page, context);
+}
+
+int BatchFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& context) {
+  page.open(context);
+  // The box shows the modulon the file's signature names, unless the batch names one.
+  page.changeFileName(page.fileNameText);
+  if (!options_.modulon.empty()) page.modulonText = options_.modulon;
+  return finishWithNext(page, context);
 }
 
 }  // namespace plovix

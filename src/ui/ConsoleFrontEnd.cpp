@@ -1,4 +1,4 @@
-// Implementation of the console front end's boxes.
+// Implementation of the console front end's boxes and the helpers its pages share.
 #include "ui/ConsoleFrontEnd.h"
 
 #include "base/ErrorTable.h"
@@ -43,24 +43,35 @@ bool ConsoleFrontEnd::ask(const std::string& text) {
   }
 }
 
-namespace {
-
-int pagesNotBuilt(std::FILE* out, WizardPageFrame& page) {
-  std::fprintf(out, "plovix: the wizard pages are not built yet; the run ends here.\n");
-  page.result = kPageCancel;
-  return kPageCancel;
+bool ConsoleFrontEnd::prompt(const std::string& hint, std::string& line) {
+  std::fprintf(out_, "%s\n> ", hint.c_str());
+  std::fflush(out_);
+  if (!readLine(line)) return false;
+  line = trimText(line);
+  return true;
 }
 
-}  // namespace
+void ConsoleFrontEnd::printTitle(const std::string& title) {
+  std::fprintf(out_, "\n== %s ==\n", title.c_str());
+}
 
-int ConsoleFrontEnd::showActionPage(ActionPage& page, PageContext&) {
-  return pagesNotBuilt(out_, page);
+void ConsoleFrontEnd::printFocus(WizardPageFrame& page,
+                                 const std::vector<std::pair<int, std::string>>& names) {
+  for (const auto& [id, name] : names) {
+    if (id == page.focusControl) std::fprintf(out_, "-> %s\n", name.c_str());
+  }
+  page.focusControl = 0;
 }
-int ConsoleFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext&) {
-  return pagesNotBuilt(out_, page);
-}
-int ConsoleFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext&) {
-  return pagesNotBuilt(out_, page);
+
+std::string consoleLabel(std::string_view text) {
+  std::string out;
+  for (size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '&' && i + 1 < text.size()) {
+      ++i;
+    }
+    out += text[i];
+  }
+  return out;
 }
 
 }  // namespace plovix

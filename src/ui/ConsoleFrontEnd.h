@@ -3,11 +3,17 @@
 
 #include <cstdio>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "ui/FrontEnd.h"
 #include "ui/FrontEndFactory.h"
 
 namespace plovix {
+
+// A control or button text as the terminal shows it: without its mnemonic "&".
+std::string consoleLabel(std::string_view text);
 
 class ConsoleFrontEnd : public FrontEnd {
  public:
@@ -25,6 +31,12 @@ class ConsoleFrontEnd : public FrontEnd {
   // Reads one line from the terminal without its line end; false at the end of input.
   bool readLine(std::string& line);
   void printBox(const std::string& text);
+  // Prints the hint and reads the user's command, trimmed; false at the end of input.
+  bool prompt(const std::string& hint, std::string& line);
+  void printTitle(const std::string& title);
+  void printBrowserPage(const VariationBrowserPage& page);
+  // Names the control a check put the focus on, when it is one of `names`, and clears the request.
+  void printFocus(WizardPageFrame& page, const std::vector<std::pair<int, std::string>>& names);
 
   FrontEndOptions options_;
   std::FILE* in_;
