@@ -38,8 +38,32 @@ void CnxEndFiler::file(const std::string& instance, const std::string& port, Cnx
   ends.push_back(std::move(end));
 }
 
+namespace {
+
+// Sorts a list by its bit positions, reading each end's position once and moving each end once.
+void sortByBitPosition(CnxEndList& ends) {
+  struct Position {
+    long long low1, low2;
+    size_t index;
+  };
+  std::vector<Position> positions;
+  positions.reserve(ends.size());
+  for (size_t i = 0; i < ends.size(); ++i) {
+    positions.push_back({atoiText(ends[i].ownLow1), atoiText(ends[i].ownLow2), i});
+  }
+  std::stable_sort(positions.begin(), positions.end(), [](const Position& a, const Position& b) {
+    return a.low1 != b.low1 ? a.low1 > b.low1 : a.low2 > b.low2;
+  });
+  CnxEndList sorted;
+  sorted.reserve(ends.size());
+  for (const Position& position : positions) sorted.push_back(std::move(ends[position.index]));
+  ends = std::move(sorted);
+}
+
+}  // namespace
+
 void CnxEndFiler::finish() {
-  for (CnxEndList* ends : unordered_) std::stable_sort(ends->begin(), ends->end(), standsBefore);
+  for (CnxEndList* ends : unordered_) sortByBitPosition(*ends);
   unordered_.clear();
   marked_.clear();
 }
