@@ -35,8 +35,9 @@ std::string componentGenericText(const CnxDescription& description, const std::s
 
 }  // namespace
 
+// A filled list of sub-module ports is complete: building it again would merge the same ends once more.
 std::string VhdlFileWriter::componentDeclarationsText() {
-  buildSubModulePorts();
+  if (subModulePorts.empty()) buildSubModulePorts();
   std::unordered_map<std::string, std::vector<size_t>> portsByModule;
   for (size_t i = 0; i < subModulePorts.size(); ++i) portsByModule[subModulePorts[i].moduleName].push_back(i);
 

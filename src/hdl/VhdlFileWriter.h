@@ -38,13 +38,14 @@ class VhdlFileWriter : public HdlFileWriter {
   // The four sections of concurrent assignments.
   std::string concurrentAssignmentsText() const;
   std::string instancesText() const;
+  // The type declaration and the procedure that unpack a flat vector into a two-dimensional signal, sized
+  // by the last two-dimensional wire.
+  std::string twoDimensionalProcedureText() const;
 
   // Conversion signals, drawn from the same counter as the wires.
   std::vector<VhdlConversion> conversions;
 
  private:
-  // The type declaration and the procedure that unpack a flat vector into a two-dimensional signal.
-  std::string twoDimensionalProcedureText() const;
   // Wire declarations; merges wires that widen to the same main-module port.
   std::string wireDeclarationsText();
 };

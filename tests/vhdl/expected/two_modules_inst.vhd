@@ -1,0 +1,4 @@
+two_modules_inst : two_modules PORT MAP(
+		clock	 => clock_sig,
+		q	 => q_sig
+	);
