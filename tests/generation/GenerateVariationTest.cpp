@@ -1,0 +1,213 @@
+// Writing a variation's files: the file sets and their order per language, the questions that stop or limit
+// the writing, the native-language copy, and failed writes that do not stop the following files.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "RecordingInterface.h"
+#include "TempDir.h"
+#include "base/FileSystem.h"
+#include "base/TextFile.h"
+#include "entry/ConflictChecks.h"
+#include "entry/GenerateVariation.h"
+#include "entry/ManagerApp.h"
+#include "hdl/VhdlFileWriter.h"
+
+namespace plovix {
+namespace {
+
+using plovix::testing::RecordingInterface;
+using plovix::testing::TempDir;
+
+class Generation : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    app.restoreDirectoryAtExit = false;
+    app.projectDirectory = dir.dir();
+  }
+
+  // The run of a plug-in that left `cnxFile` (from the test data) beside the output file `fileName`.
+  void prepare(const std::string& fileName, const std::string& cnxFile = "count8.cnx",
+               const std::string& catalog = "") {
+    ManagerRun& run = app.run;
+    run.directory = dir.dir();
+    run.fileTitle = fileName.substr(0, fileName.rfind('.'));
+    run.extension = fileName.substr(fileName.rfind('.'));
+    run.modulonName = "lpm_counter";
+    std::filesystem::copy_file(std::string(PLOVIX_TEST_DATA_DIR "/") + cnxFile, run.cnxPath());
+    run.description = std::make_unique<CnxDescription>(run.cnxPath());
+    ASSERT_TRUE(run.description->readDescription(ui));
+    run.catalog = std::make_unique<WizardCatalog>();
+    if (!catalog.empty()) {
+      dir.write("lib/wizard.lst", catalog);
+      run.catalog->loadFrom(ui, dir.path("lib"), "");
+    }
+  }
+
+  bool generate(bool writeDesign = true, bool writeSymbol = true) {
+    return generateVariationFiles(app, ui, app.run.outputPath(), writeDesign, writeSymbol);
+  }
+
+  // The names in the output directory, sorted, without the work files and the catalog folder.
+  std::vector<std::string> files() const {
+    std::vector<std::string> names;
+    for (const DirectoryEntry& entry : listDirectory(dir.dir())) {
+      const std::string& name = entry.name;
+      if (name == "lib" || name.ends_with(".cnx") || name.ends_with(".cnxerr")) continue;
+      names.push_back(name);
+    }
+    return names;
+  }
+
+  using Names = std::vector<std::string>;
+  TempDir dir;
+  ManagerApp app;
+  RecordingInterface ui;
+};
+
+// A catalog whose lpm_counter entry (the last of that name) names VHDL as its native language.
+const std::string kNativeVhdlCatalog =
+    "[old]\nlpm_counter = old.sh\n<INFO>\n<NATIVE_HDL NAME=\"VERILOG\"></NATIVE_HDL>\n</INFO>\n"
+    "[counters]\nlpm_counter = counter.sh\n<INFO>\n<NATIVE_HDL NAME=\" VHDL \"></NATIVE_HDL>\n</INFO>\n";
+
+TEST_F(Generation, FileSetOfEachLanguage) {
+  const struct {
+    const char* output;
+    Names expected;
+  } cases[] = {
+      {"count8.tdf", {"count8.cmp", "count8.inc", "count8.sym", "count8.tdf", "count8_inst.tdf"}},
+      {"count8.vhd", {"count8.cmp", "count8.inc", "count8.sym", "count8.vhd", "count8_inst.vhd"}},
+      {"count8.v", {"count8.cmp", "count8.inc", "count8.sym", "count8.v", "count8_bb.v", "count8_inst.v"}},
+  };
+  for (const auto& c : cases) {
+    for (const std::string& name : files()) std::filesystem::remove(dir.path(name));
+    std::filesystem::remove(dir.path("count8.cnx"));
+    ui.boxes.clear();
+    prepare(c.output);
+    EXPECT_TRUE(generate());
+    EXPECT_EQ(files(), c.expected) << c.output;
+    EXPECT_TRUE(ui.boxes.empty()) << ui.boxes.front();
+    EXPECT_TRUE(app.run.encPath.empty());
+  }
+}
+
+// When every write fails (the output directory is missing), each file is still attempted, in order.
+TEST_F(Generation, FilesAreAttemptedInOrder) {
+  for (const char* extension : {".tdf", ".v"}) {
+    ui.boxes.clear();
+    prepare(std::string("count8") + extension);
+    app.run.directory = dir.path("missing/");
+    app.run.description->setCnxPath(dir.path("count8.cnx"));
+    generate();
+    const std::string base = "report: File " + dir.path("missing/count8");
+    const std::string tail = " could not be opened";
+    Names expected = {base + extension + tail, base + ".inc" + tail, base + ".cmp" + tail};
+    Names opened;
+    for (const std::string& box : ui.boxes) {
+      if (box.ends_with(tail)) opened.push_back(box);
+    }
+    if (std::string(extension) == ".tdf") {
+      expected.push_back(base + "_inst.tdf" + tail);
+    } else {
+      expected.push_back(base + "_bb.v" + tail);
+      expected.push_back(base + "_inst.v" + tail);
+    }
+    // The symbol's own failure may be reported differently; it stands between the companions and templates.
+    if (opened.size() == expected.size() + 1) opened.erase(opened.begin() + 3);
+    EXPECT_EQ(opened, expected);
+    std::filesystem::remove(dir.path("count8.cnx"));
+  }
+}
+
+TEST_F(Generation, CancelledOverwriteKeepsOnlyTheDesignFileAndNativeCopy) {
+  dir.write("count8.inc", "old include");
+  prepare("count8.v", "count8.cnx", kNativeVhdlCatalog);
+  ui.answers = {false};
+  EXPECT_TRUE(generate());
+  EXPECT_EQ(files(), (Names{"count8.inc", "count8.v", "count8_enc.vhd"}));
+  EXPECT_EQ(dir.read("count8.inc"), "old include");
+  ASSERT_EQ(ui.boxes.size(), 1u);
+  EXPECT_TRUE(ui.boxes[0].starts_with("question: The following file(s) already exist:\n\n  ")) << ui.boxes[0];
+}
+
+TEST_F(Generation, NativeCopyGoesThroughTheHostLibrary) {
+  prepare("count8.tdf", "count8.cnx", kNativeVhdlCatalog);
+  EXPECT_TRUE(generate());
+  EXPECT_EQ(app.run.encPath, dir.path("count8_enc.vhd"));
+  VhdlFileWriter vhdl(ui, dir.path("count8"), "lpm_counter", *app.run.description);
+  const std::string text = vhdl.designText();
+  EXPECT_NE(text.find("-- File Name: count8.vhd\n"), std::string::npos);
+  EXPECT_EQ(text.find("Retrieval info:"), std::string::npos);
+  EXPECT_EQ(dir.read("count8_enc.vhd"), toTextMode(text));
+}
+
+TEST_F(Generation, SameNameStopWritesOnlyTheNativeCopy) {
+  dir.write("count8.vhd", "someone else's design");
+  prepare("count8.tdf", "count8.cnx", kNativeVhdlCatalog);
+  ui.answers = {false};
+  EXPECT_FALSE(generate());
+  EXPECT_EQ(files(), (Names{"count8.vhd", "count8_enc.vhd"}));
+  EXPECT_EQ(dir.read("count8.vhd"), "someone else's design");
+  ASSERT_EQ(ui.boxes.size(), 1u);
+  EXPECT_NE(ui.boxes[0].find("already exists in the working directory:\n\ncount8.vhd\n"), std::string::npos);
+}
+
+TEST_F(Generation, TwoDimensionalPortsRefusedWriteNothing) {
+  prepare("mux.vhd", "mux2d.cnx");
+  ASSERT_TRUE(app.run.description->uses2D);
+  ui.answers = {false};
+  EXPECT_TRUE(generate());
+  EXPECT_TRUE(files().empty());
+  EXPECT_EQ(app.run.extension, ".tdf");
+  ASSERT_EQ(ui.boxes.size(), 1u);
+  EXPECT_EQ(ui.boxes[0],
+            "question: Modulon requires two-dimensional ports which are not currently supported in VHDL or "
+            "Verilog HDL.\n\nDo you want to create an THDL version of the modulon instead? => Cancel");
+}
+
+TEST_F(Generation, SymbolOnlyWritesTheSymbol) {
+  dir.write("count8.inc", "old include");
+  prepare("count8.tdf", "symbol_only.cnx");
+  EXPECT_TRUE(generate(false, true));
+  EXPECT_EQ(files(), (Names{"count8.inc", "count8.sym"}));
+  EXPECT_TRUE(ui.boxes.empty());
+
+  ui.answers = {false};
+  std::filesystem::remove(dir.path("count8.sym"));
+  dir.write("count8.sym", "old symbol");
+  EXPECT_TRUE(generate(false, true));
+  EXPECT_EQ(dir.read("count8.sym"), "old symbol");
+  ASSERT_EQ(ui.boxes.size(), 1u);
+  EXPECT_EQ(ui.boxes[0].find(".inc"), std::string::npos);
+  EXPECT_NE(ui.boxes[0].find("count8.sym\n\nNote:"), std::string::npos);
+}
+
+// A file that cannot be written is reported and the files after it are still written. Without write
+// permission every write fails; a privileged user writes anyway, so there a directory blocks one file.
+TEST_F(Generation, FailedFileDoesNotStopTheOthers) {
+  prepare("count8.vhd");
+  if (geteuid() != 0) {
+    std::filesystem::permissions(dir.dir(),
+                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    EXPECT_TRUE(generate());
+    std::filesystem::permissions(dir.dir(), std::filesystem::perms::owner_all);
+    size_t denied = 0;
+    for (const std::string& box : ui.boxes) denied += box.starts_with("report: Access denied to file ");
+    EXPECT_GE(denied, 4u);  // design, include, component declaration, template (and perhaps the symbol)
+    EXPECT_TRUE(files().empty());
+    return;
+  }
+  std::filesystem::create_directory(dir.path("count8.inc"));
+  EXPECT_TRUE(generate());
+  EXPECT_EQ(files(), (Names{"count8.cmp", "count8.inc", "count8.sym", "count8.vhd", "count8_inst.vhd"}));
+  EXPECT_TRUE(std::filesystem::is_directory(dir.path("count8.inc")));
+  ASSERT_EQ(ui.boxes.size(), 2u);  // the overwrite question lists the blocked name, then the failure
+  EXPECT_EQ(ui.boxes[1], "report: Unknown file error encountered");
+}
+
+}  // namespace
+}  // namespace plovix
