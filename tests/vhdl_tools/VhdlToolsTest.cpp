@@ -1,0 +1,137 @@
+// Every VHDL case's generated files are analysed and elaborated by GHDL, with stub entities for the library
+// modules: the design file, the component declaration inside a package, the template inside a test bench.
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <string>
+#include <utility>
+
+#include "../vhdl/VhdlCases.h"
+#include "hdl/VhdlTextRules.h"
+
+namespace plovix {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::TempDir;
+using testing::VhdlCase;
+
+const std::string kGhdl = "ghdl";
+const std::string kStandard = " --std=93c";
+
+struct ToolRun {
+  int exitCode = -1;
+  std::string output;
+};
+
+ToolRun runIn(const TempDir& dir, const std::string& command) {
+  const std::string log = dir.path("tool.log");
+  const int status =
+      std::system(("cd '" + dir.dir() + "' && (" + command + ") > '" + log + "' 2>&1").c_str());
+  return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, TempDir::readFile(log)};
+}
+
+// (case, step) -> the part of GHDL's message for a case whose specified text the tool rejects.
+std::map<std::pair<std::string, std::string>, std::string> knownLimits() {
+  std::map<std::pair<std::string, std::string>, std::string> limits;
+  std::ifstream in(std::string(PLOVIX_SOURCE_DIR) + "/tests/vhdl_tools/vhdl_limits.txt");
+  for (std::string line; std::getline(in, line);) {
+    if (line.empty() || line[0] == '#') continue;
+    const size_t blank = line.find(' ');
+    const size_t colon = line.find(": ", blank);
+    if (blank == std::string::npos || colon == std::string::npos) continue;
+    limits[{line.substr(0, blank), line.substr(blank + 1, colon - blank - 1)}] = line.substr(colon + 2);
+  }
+  return limits;
+}
+
+// Analyses the stubs: a file named after a library of the description goes into that library, every other
+// one into the work library.
+std::string stubCommands(const CnxDescription& description) {
+  std::string commands = "true";
+  for (const auto& entry : fs::directory_iterator(testing::corpusDir() + "stubs")) {
+    if (entry.path().extension() != ".vhd") continue;
+    std::string library = "work";
+    for (const CnxLibrary& named : description.libraries) {
+      if (named.name == entry.path().stem().string()) library = named.name;
+    }
+    commands +=
+        " && " + kGhdl + " -a" + kStandard + " --work=" + library + " '" + entry.path().string() + "'";
+  }
+  return commands;
+}
+
+// A package holding the component declaration file, under the design's library clauses.
+std::string companionPackage(VhdlFileWriter& writer, const std::string& name) {
+  return writer.libraryClausesText() + "\nPACKAGE " + name + "_components IS\n" +
+         writer.buildCompanionText() + "END " + name + "_components;\n";
+}
+
+// A test bench that declares the *_sig signals of the template and the component, and holds the template.
+std::string templateBench(VhdlFileWriter& writer, const CnxDescription& description) {
+  std::string signals;
+  for (const auto* ports : {&description.inputPorts, &description.outputPorts}) {
+    for (const CnxUsedPort& port : *ports) {
+      signals += "\tSIGNAL " + port.name +
+                 "_sig : " + vhdlTypeText(port.width1, port.low1, port.width2, port.low2) + ";\n";
+    }
+  }
+  return writer.libraryClausesText() + "\nENTITY bench IS\nEND bench;\n\nARCHITECTURE check OF bench IS\n" +
+         writer.buildCompanionText() + signals + "BEGIN\n" + writer.buildInstanceText() + "END check;\n";
+}
+
+class VhdlTools : public ::testing::TestWithParam<std::string> {
+ protected:
+  void SetUp() override {
+    if (std::system(("command -v " + kGhdl + " > /dev/null 2>&1").c_str()) != 0) {
+      GTEST_SKIP() << kGhdl << " is not installed";
+    }
+  }
+
+  // Runs one step; a step listed as a known limit must fail with its message, any other must pass.
+  bool step(const TempDir& dir, const std::string& name, const std::string& stepName,
+            const std::string& command) {
+    const ToolRun run = runIn(dir, command);
+    const auto limit = limits_.find({name, stepName});
+    if (limit == limits_.end()) {
+      EXPECT_EQ(run.exitCode, 0) << kGhdl << " fails at " << stepName << " of " << name << ":\n"
+                                 << run.output;
+    } else {
+      EXPECT_NE(run.exitCode, 0) << kGhdl << " now passes " << stepName << " of " << name
+                                 << "; drop it from vhdl_limits.txt";
+      EXPECT_NE(run.output.find(limit->second), std::string::npos) << kGhdl << " says:\n" << run.output;
+    }
+    return run.exitCode == 0;
+  }
+
+  const std::map<std::pair<std::string, std::string>, std::string> limits_ = knownLimits();
+};
+
+TEST_P(VhdlTools, GeneratedFilesAreAcceptedByGhdl) {
+  const std::string name = GetParam();
+  VhdlCase sample(name);
+  ASSERT_TRUE(sample.loaded);
+  const TempDir& dir = sample.work;
+  VhdlFileWriter writer(sample.ui, dir.path(name), sample.writer->signatureName(), sample.description);
+  ASSERT_TRUE(writer.writeDesignFile());
+  dir.write("companion.vhd", companionPackage(writer, name));
+  dir.write("bench.vhd", templateBench(writer, sample.description));
+
+  const std::string analyse = kGhdl + " -a" + kStandard + " ";
+  ASSERT_TRUE(step(dir, name, "stubs", stubCommands(sample.description)));
+  const bool analysed = step(dir, name, "analyse", analyse + name + ".vhd");
+  const bool elaborated = analysed && step(dir, name, "elaborate", kGhdl + " -e" + kStandard + " " + name);
+  step(dir, name, "companion", analyse + "companion.vhd");
+  const bool benched = step(dir, name, "template", analyse + "bench.vhd");
+  if (elaborated && benched) step(dir, name, "bench", kGhdl + " -e" + kStandard + " bench");
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, VhdlTools, ::testing::ValuesIn(testing::allVhdlCases()));
+
+}  // namespace
+}  // namespace plovix
