@@ -1,0 +1,93 @@
+// Malformed inputs kept from fuzzing and written by hand: every operation on them ends normally and keeps
+// its promises about the log, the boxes and the files it writes.
+#include <algorithm>
+#include <filesystem>
+
+#include "CnxFixture.h"
+#include "base/FileSystem.h"
+
+namespace plovix::testing {
+namespace {
+
+std::vector<std::string> inputFiles() {
+  std::vector<std::string> files;
+  for (const auto& entry : std::filesystem::directory_iterator(PLOVIX_TEST_DATA_DIR "/fuzz")) {
+    files.push_back(entry.path().string());
+  }
+  std::sort(files.begin(), files.end());
+  return files;
+}
+
+using MalformedInputTest = CnxFixture;
+
+TEST_F(MalformedInputTest, EveryOperationEndsNormallyOnKeptInputs) {
+  const std::vector<std::string> files = inputFiles();
+  ASSERT_FALSE(files.empty());
+  for (const std::string& file : files) {
+    SCOPED_TRACE(file);
+    const std::string bytes = TempDir::readFile(file);
+    ui.boxes.clear();
+    CnxDescription fresh;
+    description = std::move(fresh);
+
+    // The read leaves the banner alone when it succeeds and shows error 33 last when it fails.
+    const bool ok = read(bytes);
+    const std::string logText = log();
+    ASSERT_EQ(logText.substr(0, banner().size()), banner());
+    if (ok) {
+      EXPECT_EQ(logText, banner());
+      EXPECT_TRUE(ui.boxes.empty());
+    } else {
+      ASSERT_FALSE(ui.boxes.empty());
+      EXPECT_EQ(ui.boxes.back(), error33());
+    }
+
+    // The retrieval info holds its banner and then statement lines only.
+    std::string block;
+    ASSERT_TRUE(description.writeRetrievalInfo(ui, ".vhd", block));
+    const std::vector<std::string> lines = splitLines(block);
+    ASSERT_GE(lines.size(), 3u);
+    for (size_t i = 3; i < lines.size(); ++i) EXPECT_EQ(lines[i].substr(0, 19), "-- Retrieval info: ");
+
+    // Stripping never grows the file beyond its text-mode form.
+    EXPECT_TRUE(description.stripGenerationLine(ui, temp.path("var.cnx")));
+    EXPECT_LE(fromTextMode(temp.read("var.cnx")).size(), fromTextMode(bytes).size() + 1);
+
+    // As a variation file, with and without a signature in front.
+    for (const std::string& signature : {std::string(), std::string("-- modulon wizard: %m%\n")}) {
+      std::filesystem::remove(temp.path("edit.cnx"));
+      temp.write("edit.vhd", signature + bytes);
+      CnxDescription edit;
+      edit.extractRetrievalInfo(ui, temp.path("edit.vhd"));
+      if (fileExists(temp.path("edit.cnx"))) {
+        EXPECT_EQ(temp.read("edit.cnx").substr(0, 9), "VERSION: ");
+      }
+    }
+  }
+}
+
+TEST_F(MalformedInputTest, StrayQuotesAndMarksAreLoggedAsTheirStatementsFail) {
+  EXPECT_FALSE(read(TempDir::readFile(PLOVIX_TEST_DATA_DIR "/fuzz/quotes-and-lone-marks.cnx")));
+  EXPECT_EQ(log(), banner() + entry(3, "", "Unknown line identifier encountered") +
+                       entry(4, "\"\"", "Unknown line identifier encountered") +
+                       entry(5, "", "Unknown line identifier encountered") +
+                       entry(6, "", "Unknown line identifier encountered") +
+                       entry(7, "", "Unknown line identifier encountered") +
+                       entry(8, "MODULE: x", "Unknown line identifier encountered") +
+                       entry(15, "", "Valid numeric value not found."));
+  // "@" alone names the main module's nameless port; "!" alone is a reference with empty parts.
+  ASSERT_NE(description.connectionMap.find("m"), nullptr);
+  EXPECT_NE(description.connectionMap.find("m")->find(""), nullptr);
+  const CnxPortMap* unnamed = description.connectionMap.find("");
+  ASSERT_NE(unnamed, nullptr);
+  EXPECT_EQ(unnamed->find("-1")->at(0).peerPort, "a");
+  EXPECT_EQ(unnamed->find("-2147483648")->at(0).ownLow1, "0");
+  EXPECT_EQ(description.inputPorts.at(0).name, "");
+  // The pin stub's lone quote is its (empty) pin name, so its text position is missing. The PARAMETER element
+  // with an empty text is dropped without an entry; the BOX's lone quote is its empty font.
+  ASSERT_EQ(description.symbolElements.size(), 1u);
+  EXPECT_EQ(std::get<SymbolBox>(description.symbolElements[0].record).font, "");
+}
+
+}  // namespace
+}  // namespace plovix::testing
