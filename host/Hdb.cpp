@@ -40,7 +40,7 @@ extern "C" int hrw_get_project_tree_id(void) {
 extern "C" int hrw_get_root_dir(int, char* buffer, int capacity) {
   const char* configured = std::getenv("PLOVIX_PROJECT_DIR");
   std::string dir = (configured != nullptr && *configured != '\0') ? configured : startDirectory();
-  if (dir.empty() || dir.back() != '/') dir += '/';
+  if (dir.empty() || (dir.back() != '/' && dir.back() != '\\')) dir += '/';
   return copyOut(dir, buffer, capacity);
 }
 

@@ -303,3 +303,41 @@ TEST_F(FirstStateTest, BlankNameStartsAtTheActionPage) {
 
 }  // namespace
 }  // namespace plovix
+
+namespace plovix {
+namespace {
+
+// Runs whose first state depends on the catalog: a recognised variation goes straight to its plug-in.
+class ListedModulonTest : public RunFlowTest {
+ protected:
+  void SetUp() override {
+    RunFlowTest::SetUp();
+    temp.write("lib/wizard.lst", "lpm_counter=counter-wizard\n<INFO>\n<ALIAS>old_counter</ALIAS>\n</INFO>\n");
+    const std::string library = temp.path("lib");
+    steps.catalogLoader = [this, library](WizardCatalog& catalog) { catalog.loadFrom(ui, "", library); };
+  }
+};
+
+TEST_F(ListedModulonTest, RecognisedVariationSkipsThePages) {
+  temp.write("c.v", "// modulon wizard: %old_counter%\r\n");
+  const std::string path = temp.path("c.v");
+  steps.launches = {{true, 0}};
+  run(path.c_str());
+  const std::string out = temp.dir() + "c";
+  EXPECT_TRUE(ui.boxes.empty());
+  EXPECT_EQ(steps.log, (Log{"catalog", "extract:" + out + ".v", "launch:lpm_counter edit direct",
+                            "read:" + out + ".cnx", "clash", "generate:" + out + ".v design symbol", "delete",
+                            "script"}));
+}
+
+TEST_F(ListedModulonTest, BackFromADirectLaunchOpensTheModulonPage) {
+  temp.write("c.tdf", "-- modulon wizard: %lpm_counter%\r\n");
+  const std::string path = temp.path("c.tdf");
+  steps.launches = {{true, 3}};
+  run(path.c_str());
+  EXPECT_EQ(steps.log, (Log{"catalog", "extract:" + temp.dir() + "c.tdf", "launch:lpm_counter edit direct",
+                            kPage2a}));
+}
+
+}  // namespace
+}  // namespace plovix
