@@ -83,7 +83,8 @@ void CatalogLoader::scanPath(const std::string& path, bool user) {
     std::string directory = trimText(path.substr(start, end - start));
     start = end + 1;
     if (directory.empty()) continue;
-    if (!endsWith(directory, "\\")) directory += "/";
+    // A separator is added unless the piece ends with one ("\\" or, on this platform, "/").
+    if (!endsWith(directory, "\\") && !endsWith(directory, "/")) directory += "/";
     if (user) catalog_.userDirectories_.push_back(directory);
     directory_ = std::move(directory);
     scanDirectory();

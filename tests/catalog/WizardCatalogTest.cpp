@@ -77,7 +77,7 @@ TEST_F(CatalogTest, ReadsFilesInNameOrderAndInheritsTheSectionAcrossFiles) {
 TEST_F(CatalogTest, ScansBothPathsAndSkipsWhatItCannotRead) {
   dir.write("user/u_wizard.lst", "USER=u\n");
   dir.write("host/h_wizard.lst", "HOST=h\n");
-  load(" @/user ; ;@/missing", "@/host;@/user");
+  load(" @/user ; ;@/missing", "@/host/;@/user");
   EXPECT_EQ(names(), (Strings{"USER", "HOST"}));  // user directory scanned twice: the second is a duplicate
   EXPECT_EQ(catalog.userLibraryDirectories(), (Strings{dir.dir() + "user/", dir.dir() + "missing/"}));
   EXPECT_EQ(catalog.findDirectory("HOST"), dir.dir() + "host/");

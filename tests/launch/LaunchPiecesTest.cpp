@@ -1,0 +1,107 @@
+// Tests of the launch's pieces: command-line words, program search, %-codes, position reports, command line.
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "LaunchFixture.h"
+#include "entry/PluginLaunch.h"
+#include "entry/PluginLaunchParts.h"
+#include "platform/CommandLineWords.h"
+#include "platform/PositionChannel.h"
+#include "platform/ProgramSearch.h"
+
+namespace plovix {
+namespace {
+
+using Words = std::vector<std::string>;
+
+TEST(SplitCommandLine, FollowsTheWindowsRuntimeRules) {
+  EXPECT_EQ(splitCommandLine("  prog\ta  b "), (Words{"prog", "a", "b"}));
+  EXPECT_EQ(splitCommandLine("prog \"C:/a b/x.tdf\" -n "), (Words{"prog", "C:/a b/x.tdf", "-n"}));
+  EXPECT_EQ(splitCommandLine("a\"b c\"d \"\" e"), (Words{"ab cd", "", "e"}));
+  EXPECT_EQ(splitCommandLine("\\a\\\\b \\\\\"x y\" \\\"q"), (Words{"\\a\\\\b", "\\x y", "\"q"}));
+  EXPECT_EQ(splitCommandLine("\"say \"\"hi\"\"\" \"open end"), (Words{"say \"hi\"", "open end"}));
+  EXPECT_EQ(splitCommandLine("line\nbreak"), (Words{"line\nbreak"}));
+  EXPECT_TRUE(splitCommandLine(" \t ").empty());
+}
+
+TEST(FindProgram, SearchesThePathWithTheExeRuleAndJavaFallback) {
+  testing::TempDir dir;
+  testing::writeScript(dir, "bin1/tool.exe", "exit 0\n");
+  testing::writeScript(dir, "bin2/tool", "exit 0\n");
+  testing::writeScript(dir, "bin2/java", "exit 0\n");
+  dir.write("bin1/plain", "not executable");
+  const std::string path = dir.path("bin1") + "::" + dir.path("bin2");
+  EXPECT_EQ(findProgram("tool", path), dir.path("bin1/tool.exe"));
+  EXPECT_EQ(findProgram("plain", path), "");
+  EXPECT_EQ(findProgram("javaw", path), dir.path("bin2/java"));
+  EXPECT_EQ(findProgram("javaw", dir.path("bin1")), "");
+  EXPECT_EQ(findProgram(dir.path("bin1/tool"), ""), dir.path("bin1/tool.exe"));
+  EXPECT_EQ(findProgram(dir.path("bin1/missing"), ""), dir.path("bin1/missing"));
+}
+
+TEST(PositionReport, ReadsOnlyWellFormedReports) {
+  const auto report = PositionChannel::parseReport(" 1034 640\t-480\n");
+  ASSERT_TRUE(report.has_value());
+  EXPECT_EQ(report->right, 640);
+  EXPECT_EQ(report->bottom, -480);
+  for (const char* bad : {"1035 1 2", "1034 1", "1034 1 2 3", "1034 a 2", "1034 1 99999999999", ""}) {
+    EXPECT_FALSE(PositionChannel::parseReport(bad).has_value()) << bad;
+  }
+  EXPECT_EQ(PositionChannel::socketName(4321), "plovix-4321");
+}
+
+class MacroTest : public testing::LaunchFixture {};
+
+TEST_F(MacroTest, ReplacesEachCodeOnce) {
+  writeCatalog("M=run\n");
+  setenv("CLASSPATH", "/j/a.jar:/j/b.jar", 1);
+  setenv("PLOVIX_TOP_FILE", "/proj/top.tdf", 1);
+  app.run.encPath = "/out/var_enc.tdf";
+  EXPECT_EQ(expand("%% %: %; %c|%f|%j|%o|%p|%v|%w"),
+            "% ; ; /j/a.jar:/j/b.jar| -devicefamilynull|javaw| -projectnametop.tdf|" +
+                toBackslashes(outputPath()) + "|\\out\\var_enc.tdf|" +
+                lib.dir().substr(0, lib.dir().size() - 1));
+  EXPECT_EQ(expand("%%p %x %J 50%"), "%p %x %J 50%");
+  unsetenv("CLASSPATH");
+  EXPECT_EQ(expand("[%c]"), "[]");
+  unsetenv("PLOVIX_TOP_FILE");
+}
+
+class CommandLineTest : public testing::LaunchFixture {};
+
+TEST_F(CommandLineTest, FindsTheProgramInTheCatalogDirectory) {
+  testing::writeScript(lib, "wiz.exe", "exit 0\n");
+  writeCatalog("M=wiz.exe -m %w#x\n");
+  const std::string home = lib.dir().substr(0, lib.dir().size() - 1);
+  EXPECT_EQ(commandLine(77),
+            lib.dir() + "wiz -m " + home + "\nx \"" + outputPath() + "\" -n  -symbol  -x500 -y500 -p2 -h77");
+}
+
+TEST_F(CommandLineTest, OptionsFollowTheRunsFlags) {
+  testing::writeScript(lib, "wiz", "exit 0\n");
+  writeCatalog("M=  wiz\n");
+  app.run.newFile = false;
+  app.run.directLaunch = true;
+  app.run.extraArguments = "-a \"b c\"";
+  EXPECT_EQ(commandLine(5), lib.dir() + "wiz  \"" + outputPath() + "\" -symbol  -a \"b c\" ");
+  app.run.directLaunch = false;
+  app.corner = {12, -3, true};
+  EXPECT_EQ(commandLine(5),
+            lib.dir() + "wiz  \"" + outputPath() + "\" -symbol  -a \"b c\"  -x12 -y-3 -p2 -h5");
+}
+
+TEST_F(CommandLineTest, ProgramsFoundNowhereLoseOnlyTheirExtension) {
+  writeCatalog("J=%j -jar x.jar\nO=sub/other.exe arg\n");
+  app.run.modulonName = "J";
+  app.run.directLaunch = true;
+  EXPECT_EQ(commandLine(1), "javaw -jar x.jar \"" + outputPath() + "\" -n  -symbol ");
+  app.run.modulonName = "O";
+  EXPECT_EQ(commandLine(1), "sub/other arg \"" + outputPath() + "\" -n  -symbol ");
+}
+
+}  // namespace
+}  // namespace plovix

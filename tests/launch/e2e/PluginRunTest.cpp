@@ -1,0 +1,186 @@
+// End-to-end runs with a test plug-in: the command line it gets, the files generated from what it leaves,
+// what its exit code does to the run, quitting a hung plug-in, vendor scripts and the catalog listing.
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/stat.h>
+
+#include <chrono>
+#include <string>
+#include <thread>
+
+#include "PlovixRunner.h"
+#include "TempDir.h"
+
+namespace plovix {
+namespace {
+
+using testing::PlovixProcess;
+using testing::PlovixResult;
+using testing::runPlovix;
+using testing::TempDir;
+
+// Counts its starts, records its arguments and the CNX file it found, leaves the prepared description
+// beside the output file and ends as line n of "codes" says (a number, "kill" or "hang"; 0 when missing).
+constexpr const char* kRecorder = R"sh(#!/bin/sh
+dir="$(dirname "$0")"
+n=$(( $(cat "$dir/count" 2>/dev/null || echo 0) + 1 ))
+echo $n > "$dir/count"
+: > "$dir/args-$n.txt"
+for a in "$@"; do printf '%s|\n' "$a" >> "$dir/args-$n.txt"; done
+cnx="${1%.*}.cnx"
+[ -e "$cnx" ] && cp "$cnx" "$dir/seen-$n.cnx"
+cp "$dir/prepared.cnx" "$cnx"
+code=$(sed -n "${n}p" "$dir/codes" 2>/dev/null)
+[ "$code" = kill ] && kill -KILL $$
+if [ "$code" = hang ]; then echo $$ > "$dir/pid"; exec sleep 30; fi
+exit ${code:-0}
+)sh";
+
+bool exists(const std::string& path) {
+  struct stat st {};
+  return stat(path.c_str(), &st) == 0;
+}
+
+class PluginRunTest : public ::testing::Test {
+ protected:
+  PluginRunTest() {
+    lib.write("rec", kRecorder);
+    chmod(lib.path("rec").c_str(), 0755);
+    lib.write("prepared.cnx", TempDir::readFile(PLOVIX_SOURCE_DIR "/tests/corpus/counter.cnx"));
+    lib.write("test_wizard.lst", "[tests]\nREC=rec\n");
+  }
+
+  std::string variation() const { return project.path("var.tdf"); }
+
+  PlovixResult run(std::vector<std::string> arguments) {
+    std::vector<std::string> all = {"--lib-path", lib.dir(),   "--user-lib-path",
+                                    "",           "--project", project.dir()};
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    return runPlovix(work, all);
+  }
+
+  // A new variation made with the recorder, so that later runs can edit it.
+  void createVariation() {
+    const PlovixResult result = run({"--modulon", "REC", "--language", "thdl", variation()});
+    ASSERT_TRUE(result.exited(0)) << result.err;
+    lib.write("count", "0\n");
+  }
+
+  std::string starts() const { return lib.read("count"); }
+
+  TempDir lib;
+  TempDir project;
+  TempDir work;
+};
+
+TEST_F(PluginRunTest, NewVariationGetsTheFullCommandLineAndItsFiles) {
+  const PlovixResult result =
+      run({"--modulon", "REC", "--language", "thdl", "--plugin-args", "-extra \"two words\"", variation()});
+  ASSERT_TRUE(result.exited(0)) << result.err;
+  const std::string args = lib.read("args-1.txt");
+  EXPECT_EQ(args.substr(0, args.find("-h")),
+            variation() + "|\n-n|\n-symbol|\n-extra|\ntwo words|\n-x500|\n-y500|\n-p2|\n");
+  EXPECT_NE(args.find("-h"), std::string::npos);
+  EXPECT_FALSE(exists(lib.path("seen-1.cnx")));
+  const std::string design = project.read("var.tdf");
+  EXPECT_NE(design.find("modulon wizard: %REC%"), std::string::npos);
+  EXPECT_NE(design.find("Retrieval info:"), std::string::npos);
+  EXPECT_FALSE(exists(project.path("var.cnx")));  // the work file is gone after generation
+}
+
+TEST_F(PluginRunTest, EditingAGeneratedFileIsADirectLaunchFromTheRebuiltDescription) {
+  createVariation();
+  const PlovixResult result = run({variation()});
+  ASSERT_TRUE(result.exited(0)) << result.err;
+  EXPECT_EQ(lib.read("args-1.txt"), variation() + "|\n-symbol|\n");
+  const std::string seen = lib.read("seen-1.cnx");
+  EXPECT_NE(seen.find("MODULE: pvx_counter"), std::string::npos) << seen;
+  EXPECT_NE(seen.find("USED_PORT: q 0 0 8 0 OUTPUT NODEFVAL"), std::string::npos) << seen;
+}
+
+TEST_F(PluginRunTest, ExitCodesDriveTheRun) {
+  createVariation();
+  struct Case {
+    const char* codes;
+    int plovixStatus;
+    const char* starts;
+  };
+  // 0 finishes; 1, 2 and death by a signal cancel; 3 and 255 go back to the page (the modulon page after a
+  // direct launch), whose Next starts the plug-in again.
+  for (const Case& c : {Case{"0", 0, "1"}, Case{"1", 1, "1"}, Case{"2", 1, "1"}, Case{"kill", 1, "1"},
+                        Case{"3\n1", 1, "2"}, Case{"255\n0", 0, "2"}}) {
+    lib.write("count", "0\n");
+    lib.write("codes", std::string(c.codes) + "\n");
+    const PlovixResult result = run({"--modulon", "REC", "--language", "thdl", variation()});
+    EXPECT_TRUE(result.exited(c.plovixStatus)) << c.codes << ": " << result.err;
+    EXPECT_EQ(starts(), std::string(c.starts) + "\n") << c.codes;
+    if (std::string(c.starts) == "2") {
+      EXPECT_EQ(lib.read("args-1.txt"), variation() + "|\n-symbol|\n");
+      // The run stays a direct launch: the new start gets " -n " but still no window options.
+      EXPECT_EQ(lib.read("args-2.txt"), variation() + "|\n-n|\n-symbol|\n");
+    }
+  }
+}
+
+TEST_F(PluginRunTest, QuitSignalEndsAHungPlugin) {
+  createVariation();
+  lib.write("codes", "hang\n");
+  PlovixProcess plovix(work, {"--lib-path", lib.dir(), "--project", project.dir(), variation()});
+  const auto start = std::chrono::steady_clock::now();
+  while (!exists(lib.path("pid")) && std::chrono::steady_clock::now() - start < std::chrono::seconds(10)) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+  }
+  ASSERT_TRUE(exists(lib.path("pid")));
+  kill(plovix.pid(), SIGTERM);
+  const PlovixResult result = plovix.finish();
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+  EXPECT_TRUE(WIFSIGNALED(result.status) && WTERMSIG(result.status) == SIGTERM);
+  const pid_t plugin = static_cast<pid_t>(std::atoi(lib.read("pid").c_str()));
+  EXPECT_TRUE(kill(plugin, 0) != 0 && errno == ESRCH);
+}
+
+TEST_F(PluginRunTest, StartFailureShowsItsMessage) {
+  lib.write("test_wizard.lst", "[tests]\nREC=missing_plugin_program\n");
+  lib.write("var.tdf", "");
+  project.write("var.tdf", "-- modulon wizard: %REC%\r\n");
+  project.write("var.cnx", TempDir::readFile(PLOVIX_SOURCE_DIR "/tests/corpus/counter.cnx"));
+  const PlovixResult result = run({variation()});
+  EXPECT_TRUE(result.exited(1));
+  EXPECT_NE(
+      result.err.find("report: Can't start the modulon wizard plug-in REC.\\n\\nNo such file or directory"),
+      std::string::npos)
+      << result.err;
+}
+
+TEST_F(PluginRunTest, VendorScriptRunsAfterGeneration) {
+  lib.write("test_wizard.lst", "[tests]\nREC=rec\n<INFO>\n<NATIVE_TOOL NAME=\"sh\">\n<SCRIPT HREF=\"cp '" +
+                                   variation() + "' '%w/copied.tdf'\"/>\n</NATIVE_TOOL>\n</INFO>\n");
+  const PlovixResult result = run({"--modulon", "REC", "--language", "thdl", variation()});
+  ASSERT_TRUE(result.exited(0)) << result.err;
+  EXPECT_NE(
+      result.err.find("question: There is a vendor-provided script associated with this plovix plug-in."),
+      std::string::npos);
+  EXPECT_EQ(lib.read("copied.tdf"), project.read("var.tdf"));
+}
+
+TEST(ListModulons, PrintsTheCatalogAsATable) {
+  TempDir lib;
+  TempDir work;
+  lib.write("a_wizard.lst",
+            "[top|sub]\nONE [-No2D]=run\\it #x\n<INFO>\n<ABSTRACT>tab\there</ABSTRACT><ALIAS>uno</ALIAS>\n"
+            "<NATIVE_HDL NAME=\"vhdl\"/><NATIVE_TOOL NAME=\"t\"><S HREF=\"a\"/></NATIVE_TOOL>\n</INFO>\n"
+            "NOCOMMAND\n");
+  const PlovixResult result =
+      runPlovix(work, {"--lib-path", lib.dir(), "--user-lib-path", "", "--list-modulons"});
+  EXPECT_TRUE(result.exited(0));
+  EXPECT_EQ(result.out,
+            "name\tsection\tdirectory\tcommand_line\tsupports2D\tnative_hdl\tnative_"
+            "tool\tscripts\talias\tabstract\n"
+            "ONE\ttop|sub\t" +
+                lib.dir() + "\trun/it \\nx\tfalse\tvhdl\tt\ta+\tuno\ttab\\there\n");
+  EXPECT_EQ(result.err, "report: Ignored invalid line 7 in file " + lib.path("a_wizard.lst") +
+                            " -- it does not contain a command line\n");
+}
+
+}  // namespace
+}  // namespace plovix
