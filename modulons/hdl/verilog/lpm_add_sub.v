@@ -14,15 +14,13 @@ module lpm_add_sub (dataa, datab, cin, add_sub, clock, clken, aclr, result, cout
   output [lpm_width-1:0] result;
   output cout, overflow;
 
-  // An unconnected carry in is 0 when adding and 1 (no borrow) when subtracting; unconnected add_sub adds.
+  // Unconnected add_sub adds; an unconnected carry in is 0, so a subtraction without borrow needs cin tied high.
   tri1 add_sub, clken;
-  tri0 clock, aclr;
-  tri0 [lpm_width-1:0] dataa, datab;
+  tri0 cin, clock, aclr;
 
   wire add = (lpm_direction == "ADD") ? 1'b1 : (lpm_direction == "SUB") ? 1'b0 : add_sub;
-  wire carry_in = (cin === 1'bz) ? ~add : cin;
   wire [lpm_width-1:0] operand = add ? datab : ~datab;
-  wire [lpm_width:0] sum = {1'b0, dataa} + {1'b0, operand} + {{lpm_width{1'b0}}, carry_in};
+  wire [lpm_width:0] sum = {1'b0, dataa} + {1'b0, operand} + {{lpm_width{1'b0}}, cin};
   wire signed_overflow = (dataa[lpm_width-1] == operand[lpm_width-1]) &&
                          (sum[lpm_width-1] != dataa[lpm_width-1]);
   wire unsigned_overflow = add ? sum[lpm_width] : ~sum[lpm_width];

@@ -12,7 +12,6 @@ module lpm_compare (dataa, datab, clock, clken, aclr, alb, aeb, agb, ageb, aneb,
   input clock, clken, aclr;
   output alb, aeb, agb, ageb, aneb, aleb;
 
-  tri0 [lpm_width-1:0] dataa, datab;
   tri0 clock, aclr;
   tri1 clken;
 

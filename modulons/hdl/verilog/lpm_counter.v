@@ -15,7 +15,6 @@ module lpm_counter (data, clock, clk_en, cnt_en, updown, aclr, aset, aload, sclr
   output cout;
 
   // Unconnected controls take their inactive levels; unconnected enables count.
-  tri0 [lpm_width-1:0] data;
   tri1 clk_en, cnt_en, updown, cin;
   tri0 aclr, aset, aload, sclr, sset, sload;
 

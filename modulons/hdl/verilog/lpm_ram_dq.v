@@ -18,7 +18,6 @@ module lpm_ram_dq (data, address, we, inclock, outclock, q);
   output [lpm_width-1:0] q;
 
   tri0 inclock, outclock;
-  tri0 [lpm_width-1:0] data;
 
   reg [lpm_width-1:0] memory [0:lpm_numwords-1];
   integer k;

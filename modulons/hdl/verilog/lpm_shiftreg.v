@@ -12,7 +12,6 @@ module lpm_shiftreg (data, clock, enable, shiftin, load, aclr, aset, sclr, sset,
   output [lpm_width-1:0] q;
   output shiftout;
 
-  tri0 [lpm_width-1:0] data;
   tri1 enable, shiftin;
   tri0 load, aclr, aset, sclr, sset;
 
