@@ -130,5 +130,25 @@ TEST(SymbolPicture, DrawnGate) {
   convertToPng(artifactDir() + "drawn_gate");
 }
 
+// The plovix command prints the same picture; it is built by its own target, so the test needs it built.
+TEST(SymbolPicture, RenderSymbolCommandPrintsThePicture) {
+  const std::string plovix = std::string(PLOVIX_BINARY_DIR) + "/cli/plovix";
+  if (!std::filesystem::exists(plovix)) GTEST_SKIP() << "the plovix command is not built";
+  CnxDescription d;
+  d.inputPorts = {port("a", "INPUT", "0")};
+  const std::string svg = buildAndRender("command", d);
+  const std::string base = artifactDir() + "command";
+  const std::string render =
+      "'" + plovix + "' --batch --render-symbol '" + base + ".sym' > '" + base + ".out.svg'";
+  EXPECT_EQ(std::system(render.c_str()), 0);
+  EXPECT_EQ(testing::TempDir::readFile(base + ".out.svg"), svg);
+  testing::TempDir temp;
+  const std::string command = "'" + plovix + "' --batch --render-symbol '" + temp.path("none.sym") +
+                              "' 2> '" + temp.path("err") + "' > '" + temp.path("out") + "'";
+  EXPECT_NE(std::system(command.c_str()), 0);
+  EXPECT_EQ(temp.read("out"), "");
+  EXPECT_EQ(temp.read("err"), "report: File " + temp.path("none.sym") + " could not be opened\n");
+}
+
 }  // namespace
 }  // namespace plovix
