@@ -18,6 +18,7 @@ std::string HdlFileWriter::newWire(const std::string& sourceText, const std::str
                                    const std::string& drivingPort, const std::string& width1,
                                    const std::string& width2, bool inverted, bool constant) {
   if (sourceText.empty()) return {};
+  wireIndex_.sync(wires);  // a list emptied since the last lookup is not mistaken for the indexed one
   NetlistWire wire;
   wire.sourceText = sourceText;
   wire.name = formatText("sub_wire%d", wireCounter++);

@@ -10,9 +10,13 @@ void NetlistWireIndex::rebuild(const std::vector<NetlistWire>& wires) {
   for (; indexed_ < wires.size(); ++indexed_) first_.try_emplace(wires[indexed_].sourceKey, indexed_);
 }
 
-NetlistWire* NetlistWireIndex::find(std::vector<NetlistWire>& wires, const std::string& key) {
+void NetlistWireIndex::sync(const std::vector<NetlistWire>& wires) {
   if (!valid_ || wires.size() < indexed_) rebuild(wires);
   for (; indexed_ < wires.size(); ++indexed_) first_.try_emplace(wires[indexed_].sourceKey, indexed_);
+}
+
+NetlistWire* NetlistWireIndex::find(std::vector<NetlistWire>& wires, const std::string& key) {
+  sync(wires);
   auto it = first_.find(key);
   if (it != first_.end() && wires[it->second].sourceKey != key) {
     // A key was changed behind the index's back: start again from the list itself.

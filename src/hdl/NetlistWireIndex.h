@@ -11,11 +11,13 @@
 namespace plovix {
 
 // Gives the first wire of a list with a given source key, as a scan from the front would. Wires appended to
-// the list are picked up on the next lookup; a change of a wire's source key must be announced with
-// invalidate().
+// the list are picked up on the next lookup and a shortened list is indexed anew; a change of a wire's source
+// key must be announced with invalidate().
 class NetlistWireIndex {
  public:
   NetlistWire* find(std::vector<NetlistWire>& wires, const std::string& key);
+  // Brings the index up to the list as it stands.
+  void sync(const std::vector<NetlistWire>& wires);
   void invalidate() { valid_ = false; }
 
  private:

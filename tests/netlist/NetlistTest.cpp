@@ -214,6 +214,12 @@ TEST_F(NetlistTest, FindWireGivesTheFirstWireWithTheKey) {
   appended.name = "late_wire";
   w.wires.push_back(appended);
   EXPECT_EQ(w.findWire("late")->name, "late_wire");
+  // A writer that empties its lists and builds again finds the new wires, not the old ones.
+  w.wires.clear();
+  for (const char* key : {"n0", "n1", "n2", "n3"}) w.newWire(key, key, key, "0", "0", false, false);
+  ASSERT_NE(w.findWire("n0"), nullptr);
+  EXPECT_EQ(w.findWire("n0")->name, "sub_wire2");
+  EXPECT_EQ(w.findWire("late"), nullptr);
 }
 
 TEST_F(NetlistTest, SubModulePortsMergeDirectionsAndBounds) {
