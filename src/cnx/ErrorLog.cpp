@@ -1,4 +1,6 @@
 // The CNX error log: its banner, written when the log is (re)created, and one entry per fault found.
+#include <cerrno>
+
 #include "base/Format.h"
 #include "base/Report.h"
 #include "base/TextFile.h"
@@ -24,7 +26,10 @@ std::string errorLogEntry(int32_t lineCounter, const std::string& lineRest, cons
 bool CnxDescription::logError(UserInterface& ui, const std::string& message) {
   int errorNumber = 0;
   if (errorLogFresh) {
-    if (writeTextFile(errorLogPath, errorLogBanner(), errorNumber)) {
+    // A description without a path has no log to create.
+    if (errorLogPath.empty()) {
+      reportFileErrno(ui, ENOENT, errorLogPath);
+    } else if (writeTextFile(errorLogPath, errorLogBanner(), errorNumber)) {
       errorLogFresh = false;
     } else {
       reportFileErrno(ui, errorNumber, errorLogPath);

@@ -19,36 +19,6 @@ TEST(CnxDescriptionTest, PathsOfTheCnxFileAndItsLog) {
   EXPECT_EQ(d.errorLogPath, "");
 }
 
-TEST(CnxDescriptionTest, ResetRestoresTheReadingStateButKeepsPathsAndRecords) {
-  CnxDescription d("a.cnx");
-  d.commentLeader = "//";
-  d.defaultSymbolBox = false;
-  d.errorLogFresh = false;
-  d.uses2D = true;
-  d.version = "WM1.0";
-  d.mainModuleName = "m";
-  d.generationMode = "SYMBOL_ONLY";
-  d.token = "t";
-  d.lineRest = "r";
-  d.lineCounter = 9;
-  d.emptyQuoted = true;
-  d.modules.push_back({"m", "m", ""});
-  d.reset();
-  EXPECT_TRUE(d.defaultSymbolBox);
-  EXPECT_TRUE(d.errorLogFresh);
-  EXPECT_FALSE(d.uses2D);
-  EXPECT_EQ(d.version, "CNX_VERSION_UNKNOWN");
-  EXPECT_EQ(d.mainModuleName, "");
-  EXPECT_EQ(d.generationMode, "STANDARD");
-  EXPECT_EQ(d.token, "");
-  EXPECT_EQ(d.lineRest, "");
-  EXPECT_EQ(d.lineCounter, 1);
-  EXPECT_FALSE(d.emptyQuoted);
-  EXPECT_EQ(d.cnxPath, "a.cnx");
-  EXPECT_EQ(d.commentLeader, "//");
-  EXPECT_EQ(d.modules.size(), 1u);
-}
-
 TEST(CnxDescriptionTest, DeleteWorkFilesRemovesTheCnxFileAndItsLogOnly) {
   TempDir temp;
   temp.write("var.cnx", "x");

@@ -145,6 +145,12 @@ TEST_F(ErrorLogTest, MissingCnxFileIsAFileErrorAfterTheLogWasCreated) {
   EXPECT_EQ(ui.boxes,
             std::vector<std::string>{"report: File " + temp.path("none.cnx") + " could not be opened"});
   EXPECT_EQ(fromTextMode(temp.read("none.cnxerr")), banner());
+
+  // Without any path neither file can be opened.
+  RecordingInterface pathless;
+  CnxDescription none;
+  EXPECT_FALSE(none.readDescription(pathless));
+  EXPECT_EQ(pathless.boxes, std::vector<std::string>(2, "report: File  could not be opened"));
 }
 
 TEST_F(ErrorLogTest, LogThatCannotBeCreatedIsReportedAtEveryFaultAndNoEntryIsWritten) {
