@@ -127,7 +127,8 @@ void NetlistBuild::packRow(size_t cIndex, const std::string& instance, const std
   std::vector<NetlistConnection>& list = w_.connections;
   if (!rowsSeen_) {
     w_.netlistFlag = 1;
-    const std::string flatWidth = decimalText(atoiText(e.ownWidth2) * (atoiText(e.ownLow1) + 1));
+    const std::string flatWidth =
+        decimalText(wrappingProduct(atoiText(e.ownWidth2), atoiText(e.ownLow1) + 1));
     const std::string flatRange = "[" + flatWidth + ":0]";
     NetlistConnection x;
     x.conversionRole = kConversionFlatSide;

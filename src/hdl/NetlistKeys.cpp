@@ -21,4 +21,12 @@ std::string decimalText(long long value) {
   return formatText("%lld", value);
 }
 
+long long wrappingSum(long long a, long long b) {
+  return static_cast<long long>(static_cast<unsigned long long>(a) + static_cast<unsigned long long>(b));
+}
+
+long long wrappingProduct(long long a, long long b) {
+  return static_cast<long long>(static_cast<unsigned long long>(a) * static_cast<unsigned long long>(b));
+}
+
 }  // namespace plovix

@@ -15,4 +15,8 @@ std::string endKeyText(const std::string& instance, const std::string& port, boo
 // The decimal text of an integer.
 std::string decimalText(long long value);
 
+// Sum and product of bound numbers that wrap around instead of overflowing, whatever a description holds.
+long long wrappingSum(long long a, long long b);
+long long wrappingProduct(long long a, long long b);
+
 }  // namespace plovix

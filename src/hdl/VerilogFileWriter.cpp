@@ -1,6 +1,8 @@
 // The Verilog writer's construction, its design, companion and black-box texts and the text rules they share.
 #include "hdl/VerilogFileWriter.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <utility>
 
 #include "base/Format.h"
@@ -57,10 +59,12 @@ long long verilogWidthNumber(const std::string& width) {
 }
 
 std::string verilogConstantValue(const std::string& drivingPort, const std::string& width) {
-  const int bits = width == "0" ? 1 : static_cast<int>(verilogWidthNumber(width));
+  const int bits = width == "0" ? 1 : static_cast<int32_t>(verilogWidthNumber(width));
   if (drivingPort == "VCC") return formatText("%d'H1", bits);
   if (drivingPort == "GND") return formatText("%d'H0", bits);
-  return formatText("%d'H%s", bits, hexLiteral(drivingPort, bits).c_str());
+  // A width no device has (over a million bits) would only make a literal of millions of padding digits.
+  constexpr int kLongestLiteral = 1 << 20;
+  return formatText("%d'H%s", bits, hexLiteral(drivingPort, std::min(bits, kLongestLiteral)).c_str());
 }
 
 }  // namespace plovix

@@ -96,8 +96,10 @@ std::string VerilogFileWriter::wireText() {
       group.low2 = c.ownLow2;
       open = true;
     }
-    group.width1 += verilogWidthNumber(c.peerIsConstant ? c.ownWidth1 : c.peerWidth1);
-    group.width2 += verilogWidthNumber(c.peerIsConstant ? c.ownWidth2 : c.peerWidth2);
+    group.width1 =
+        wrappingSum(group.width1, verilogWidthNumber(c.peerIsConstant ? c.ownWidth1 : c.peerWidth1));
+    group.width2 =
+        wrappingSum(group.width2, verilogWidthNumber(c.peerIsConstant ? c.ownWidth2 : c.peerWidth2));
     group.rightHand += (group.members++ == 0 ? "" : ", ") + c.peerName + c.peerRange1 + c.peerRange2;
   }
   return text;

@@ -49,6 +49,9 @@ TEST(VerilogValues, ConstantsTakeTheWidthOfTheirWire) {
   EXPECT_EQ(verilogConstantValue("5", "0"), "1'H5");  // one digit, as the width asks
   // A width that is not a decimal number counts as 0.
   EXPECT_EQ(verilogConstantValue("GND", "WIDTH"), "0'H0");
+  // Widths beyond any device keep the number but not millions of padding digits.
+  EXPECT_EQ(verilogConstantValue("5", "99999999999").substr(0, 14), "1215752191'H00");
+  EXPECT_EQ(verilogConstantValue("5", "99999999999").size(), 262144u + 12);
 }
 
 TEST(VerilogValues, ParametersDirectionsAndWidths) {
