@@ -70,9 +70,10 @@ void appendWireAssignments(const std::vector<NetlistWire>& wires, AssignmentText
       if (wire.width2 == "0") {
         bits = value == "GND" ? "'0'" : value;
       } else if (value == "GND") {
-        bits = "\"" + std::string(static_cast<size_t>(bitStringLength(wire.width2)), '0') + "\"";
+        bits =
+            formatText("\"%s\"", std::string(static_cast<size_t>(bitStringLength(wire.width2)), '0').c_str());
       } else {
-        bits = "\"" + binaryLiteral(value, bitStringLength(wire.width2)) + "\"";
+        bits = formatText("\"%s\"", binaryLiteral(value, bitStringLength(wire.width2)).c_str());
       }
       out.append(formatText("\t%s_bv%s <= %s;\n", wire.name.c_str(),
                             vhdlRangeText(wire.width1, "0", wire.width2, "0").c_str(), bits.c_str()));
