@@ -61,14 +61,26 @@ int batchLanguageIndex(const std::string& language) {
   return -1;
 }
 
+bool BatchFrontEnd::shownBefore(const WizardPageFrame& page) {
+  return !shown_.insert(&page).second;
+}
+
 int BatchFrontEnd::showActionPage(ActionPage& page, PageContext& context) {
   page.open();
+  if (shownBefore(page)) {
+    page.pressCancel();
+    return page.result;
+  }
   page.createChecked = !options_.modulon.empty();
   return finishWithNext(page, context);
 }
 
 int BatchFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext& context) {
   page.open(context);
+  if (shownBefore(page)) {
+    page.pressCancel();
+    return page.result;
+  }
   page.editText = designFileName(context);
   if (!options_.modulon.empty()) {
     int item = page.tree.findByText(options_.modulon);
@@ -83,6 +95,10 @@ int BatchFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext& cont
 
 int BatchFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& context) {
   page.open(context);
+  if (shownBefore(page)) {
+    page.pressCancel();
+    return page.result;
+  }
   // The box shows the modulon the file's signature names, unless the batch names one.
   page.changeFileName(page.fileNameText);
   if (!options_.modulon.empty()) page.modulonText = options_.modulon;

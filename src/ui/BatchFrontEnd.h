@@ -1,6 +1,7 @@
 // The batch front end: boxes become one line each on standard error, pages are filled from the options.
 #pragma once
 
+#include <set>
 #include <string>
 
 #include "ui/FrontEnd.h"
@@ -26,7 +27,12 @@ class BatchFrontEnd : public FrontEnd {
   int showBrowserPage(VariationBrowserPage& page, PageContext& context) override;
 
  private:
+  // A page shown again (the plug-in went back, or could not be started) would be filled the same way and
+  // lead to the same place; it ends with Cancel instead, so that a batch run never loops.
+  bool shownBefore(const WizardPageFrame& page);
+
   FrontEndOptions options_;
+  std::set<const WizardPageFrame*> shown_;
 };
 
 }  // namespace plovix
