@@ -6,6 +6,7 @@
 #include "../corpus/CorpusCase.h"
 #include "RecordingInterface.h"
 #include "TempDir.h"
+#include "base/TextFile.h"
 #include "hdl/VhdlFileWriter.h"
 #include "hdl/VhdlTextRules.h"
 
@@ -225,6 +226,27 @@ TEST(VhdlDesignText, RepeatedBuildGivesTheSameText) {
   const std::string first = sample.writer.designText();
   EXPECT_EQ(sample.writer.designText(), first);
   EXPECT_EQ(sample.writer.wireCounter, 3);
+}
+
+// Widths that are no numbers, negative or far too wide still give a text, and the files are named for VHDL.
+TEST(VhdlDesignText, OddWidthsAndTheFilesWritten) {
+  Sample sample(
+      "MODULE: cnt c\nUSED_PORT: q 0 0 W 0 OUTPUT NODEFVAL\nUSED_PORT: e 0 0 -3 0 INPUT VCC\n"
+      "CONNECT: q 0 0 W 0 c@q 0 0 W 0\nCONNECT: c@d 0 0 99999999999 0 5 0 0 0 0\n"
+      "CONNECT: c@e 0 0 -3 0 GND 0 0 0 0\nCONNECT: c@f 7 0 x 0 e 0 0 -3 0\n");
+  ASSERT_TRUE(sample.loaded);
+  VhdlFileWriter writer(sample.ui, sample.work.path("odd"), "top", sample.description);
+  const std::string text = writer.designText();
+  EXPECT_NE(text.find("\tq\t\t: OUT STD_LOGIC_VECTOR (W-1 DOWNTO 0)"), std::string::npos);
+  EXPECT_NE(text.find(" <= \"\";\n"), std::string::npos);  // a negative width gives no bits
+  EXPECT_LT(text.size(), 1u << 22);                        // nor does a huge one give gigabytes
+
+  EXPECT_TRUE(writer.writeDesignFile());
+  EXPECT_TRUE(writer.writeCompanionFile());
+  EXPECT_TRUE(writer.writeInstanceFile());
+  EXPECT_EQ(sample.work.read("odd.cmp"), toTextMode(writer.buildCompanionText()));
+  EXPECT_EQ(sample.work.read("odd_inst.vhd"), toTextMode(writer.buildInstanceText()));
+  EXPECT_EQ(sample.work.read("odd.vhd").rfind(toTextMode(text), 0), 0u);
 }
 
 }  // namespace
