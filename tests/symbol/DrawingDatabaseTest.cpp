@@ -174,6 +174,33 @@ TEST(SymbolFileReading, FindsTheFirstBadLine) {
   EXPECT_EQ(symbolFileFault(head), 3);  // the end line is missing
 }
 
+// Damaged copies of a real symbol file are either read or rejected with a line number, never more.
+TEST(SymbolFileReading, DamagedFilesAreReadOrRejected) {
+  const std::string good =
+      "PLOVIX-SYM 1\ndrawing name=\"g\" sheet-size=60,40\nline type=4 from=0,0 to=-2147483648,2147483647 "
+      "style=3 width=1\narc centre=5,5 radius=-3 start=8,5 end=8,5\ncircle centre=1,1 radius=2147483647 "
+      "filled=1\n"
+      "text start=1,1 size=9,9 orientation=1 font-string=\",-99999999\" text=\"a\\x00b\\n\" pin=3,3\nend\n";
+  ASSERT_EQ(symbolFileFault(good), 0);
+  unsigned seed = 12345;
+  auto nextRandom = [&seed] { return (seed = seed * 1103515245u + 12345u) >> 8; };
+  const std::string noise = " =\",\\-9\nx\x7f\xff";
+  for (int round = 0; round < 300; ++round) {
+    std::string damaged = good;
+    for (int edit = 0; edit < 3; ++edit) {
+      const size_t at = nextRandom() % damaged.size();
+      if (nextRandom() % 2 == 0)
+        damaged[at] = noise[nextRandom() % noise.size()];
+      else
+        damaged.erase(at, 1 + nextRandom() % 4);
+      if (damaged.empty()) break;
+    }
+    const int fault = symbolFileFault(damaged);
+    EXPECT_GE(fault, 0) << damaged;
+    EXPECT_LE(fault, 9) << damaged;
+  }
+}
+
 TEST(SymbolFileReading, FileErrorsComeBackAsErrno) {
   testing::TempDir dir;
   char* svg = nullptr;
