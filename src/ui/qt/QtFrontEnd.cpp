@@ -1,0 +1,67 @@
+// The Qt front end's boxes, pages and event pump.
+#include "ui/qt/QtFrontEnd.h"
+
+#include <QMessageBox>
+
+#include "base/ErrorTable.h"
+#include "ui/QtFrontEndHook.h"
+#include "ui/qt/QtActionDialog.h"
+#include "ui/qt/QtBrowserDialog.h"
+#include "ui/qt/QtModulonDialog.h"
+
+namespace plovix {
+
+QtFrontEnd::QtFrontEnd(FrontEndOptions options) : options_(std::move(options)) {
+  if (QApplication::instance() == nullptr) ownApplication_ = std::make_unique<QApplication>(argc_, argv_);
+  QObject::connect(qApp, &QCoreApplication::aboutToQuit, [this] { quitRequested_ = true; });
+}
+
+QtFrontEnd::~QtFrontEnd() = default;
+
+namespace {
+
+int showBox(const std::string& text, QMessageBox::StandardButtons buttons) {
+  QMessageBox box(QMessageBox::Warning, QString::fromStdString(std::string(kManagerName)),
+                  QString::fromStdString(text), buttons);
+  box.setObjectName("messageBox");
+  return box.exec();
+}
+
+}  // namespace
+
+void QtFrontEnd::report(const std::string& text) {
+  showBox(text, QMessageBox::Ok);
+}
+
+bool QtFrontEnd::ask(const std::string& text) {
+  return showBox(text, QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
+}
+
+bool QtFrontEnd::processEvents() {
+  QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+  return !quitRequested_;
+}
+
+int QtFrontEnd::showActionPage(ActionPage& page, PageContext& context) {
+  page.open();
+  QtActionDialog dialog(page, context);
+  return dialog.run();
+}
+
+int QtFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext& context) {
+  page.open(context);
+  QtModulonDialog dialog(page, context);
+  return dialog.run();
+}
+
+int QtFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& context) {
+  page.open(context);
+  QtBrowserDialog dialog(page, context);
+  return dialog.run();
+}
+
+std::unique_ptr<FrontEnd> makeQtFrontEnd(const FrontEndOptions& options) {
+  return std::make_unique<QtFrontEnd>(options);
+}
+
+}  // namespace plovix
