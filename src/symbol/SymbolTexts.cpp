@@ -70,7 +70,8 @@ void SymbolBuilder::drawPinStub(const SymbolPinStub& stub) {
   gio_text_create_pinstub(instance_, kTextRecord, rec, &point, 0);
 }
 
-// One text holding every parameter line, each followed by a line end; its width is counted in characters.
+// One text holding every parameter line, each followed by a line end; its width is counted in characters and
+// its height is one line of the block's font text per parameter line.
 void SymbolBuilder::drawParameterBlock(const SymbolParameter& parameter) {
   if (parameter.text.empty()) return;
   const std::string font = fontOrDefault(parameter.font);
