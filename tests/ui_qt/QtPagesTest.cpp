@@ -1,0 +1,274 @@
+// Qt Test cases of the Qt pages: the frame's buttons and texts, the message boxes, the modulon page's checks
+// and save-file dialog, and whole runs that create a variation and edit it by clicking.
+#include <sys/stat.h>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <fstream>
+
+#include "ModalDriver.h"
+#include "TempDir.h"
+#include "catalog/WizardCatalog.h"
+#include "entry/ManagerApp.h"
+#include "entry/RunFlow.h"
+#include "entry/StandardRunSteps.h"
+#include "ui/qt/QtFrontEnd.h"
+
+namespace plovix {
+
+using testing::answerBox;
+using testing::clickChild;
+using testing::ModalDriver;
+using testing::TempDir;
+using testing::typeInto;
+
+namespace {
+
+// A description of an eight-bit counter, as a plug-in leaves it.
+constexpr const char* kCounterDescription =
+    "GENERATION: STANDARD\n"
+    "VERSION: WM1.0\n"
+    "MODULE: lpm_counter\n"
+    "PARAMETER: WIDTH NUMERIC 8\n"
+    "USED_PORT: clock 0 0 0 0 INPUT NODEFVAL\n"
+    "USED_PORT: q 8 0 0 0 OUTPUT NODEFVAL\n"
+    "CONNECT: lpm_counter@clock 0 0 0 0 clock 0 0 0 0\n"
+    "CONNECT: q 8 0 0 0 lpm_counter@q 8 0 0 0\n";
+
+// Clicks the item of a tree or list widget whose first column shows `text`.
+void clickItem(QWidget* parent, const char* objectName, const QString& text, bool twice = false) {
+  auto* tree = parent->findChild<QTreeWidget*>(objectName);
+  QVERIFY(tree != nullptr);
+  const QList<QTreeWidgetItem*> found = tree->findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
+  QVERIFY2(!found.isEmpty(), qPrintable(text));
+  tree->scrollToItem(found.front());
+  const QPoint where = tree->visualItemRect(found.front()).center();
+  QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, where);
+  if (twice) QTest::mouseDClick(tree->viewport(), Qt::LeftButton, {}, where);
+}
+
+}  // namespace
+
+class QtPagesTest : public QObject {
+  Q_OBJECT
+
+ private:
+  FrontEndOptions options;
+  std::unique_ptr<QtFrontEnd> frontEnd;
+  WizardCatalog catalog;
+  WindowCorner corner;
+
+ private slots:
+  void initTestCase() { frontEnd = std::make_unique<QtFrontEnd>(options); }
+
+  void frameButtonsAndActionPage() {
+    PageContext context{*frontEnd, catalog, corner, "/", ""};
+    ActionPage page;
+    page.notice = "notice";
+    page.pageKind = kFirstPage;
+    page.setCaption("Plovix Plug-In Manager [page 1]");
+    page.open();
+    QRect geometry;
+    ModalDriver driver;
+    driver.on(
+        "actionPage",
+        [&](QWidget* dialog) {
+          QCOMPARE(dialog->windowTitle(), QString("Plovix Plug-In Manager [page 1]"));
+          auto* next = dialog->findChild<QPushButton*>("next");
+          auto* back = dialog->findChild<QPushButton*>("back");
+          auto* cancel = dialog->findChild<QPushButton*>("cancel");
+          auto* finish = dialog->findChild<QPushButton*>("finish");
+          QVERIFY(next && back && cancel && finish);
+          QCOMPARE(next->text(), QString("&Next >"));
+          QCOMPARE(back->text(), QString("< &Back"));
+          QCOMPARE(finish->text(), QString("&Finish"));
+          const int right = dialog->width();
+          QCOMPARE(next->geometry(), QRect(right - 133, dialog->height() - 33, 60, 23));
+          QCOMPARE(cancel->geometry().left(), right - 259);
+          QCOMPARE(finish->geometry().right() + 1, right - 10);
+          QVERIFY(!back->isEnabled());
+          QVERIFY(!finish->isEnabled());
+          QVERIFY(next->isDefault());
+          QVERIFY(dialog->findChild<QRadioButton*>("create")->isChecked());
+          geometry = dialog->frameGeometry();
+          clickChild(dialog, "edit");
+          clickChild(dialog, "next");
+        },
+        "1-action-page");
+    QCOMPARE(frontEnd->showActionPage(page, context), int(kPageNext));
+    QVERIFY(driver.finished());
+    QVERIFY(!page.createNew);
+    QVERIFY(corner.known);
+    QCOMPARE(corner.right, geometry.x() + geometry.width());
+    QCOMPARE(corner.bottom, geometry.y() + geometry.height());
+
+    // Escape cancels and keeps the stored corner.
+    const WindowCorner before = corner;
+    ModalDriver cancelling;
+    cancelling.on("actionPage", [](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
+    page.open();
+    QCOMPARE(frontEnd->showActionPage(page, context), int(kPageCancel));
+    QCOMPARE(corner.right, before.right);
+  }
+
+  void messageBoxes() {
+    ModalDriver driver;
+    driver.on("messageBox", [](QWidget* widget) {
+      auto* box = qobject_cast<QMessageBox*>(widget);
+      QCOMPARE(box->windowTitle(), QString("Plovix Plug-In Manager"));
+      QCOMPARE(box->icon(), QMessageBox::Warning);
+      QCOMPARE(box->standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
+      QCOMPARE(box->text(), QString("a report"));
+      answerBox(box, true);
+    });
+    driver.on(
+        "messageBox",
+        [](QWidget* widget) {
+          auto* box = qobject_cast<QMessageBox*>(widget);
+          QCOMPARE(box->standardButtons(), QMessageBox::Ok | QMessageBox::Cancel);
+          answerBox(box, false);
+        },
+        "message-box");
+    frontEnd->report("a report");
+    QVERIFY(!frontEnd->ask("a question"));
+    QVERIFY(driver.finished());
+  }
+
+  void modulonPageChecksFocusAndBrowse() {
+    TempDir dir;
+    dir.write("lib/a_wizard.lst", "[arithmetic|counters]\nlpm_counter=run\n");
+    dir.write("sub/.keep", "");
+    WizardCatalog loaded;
+    loaded.loadFrom(*frontEnd, dir.path("lib"), "");
+    PageContext context{*frontEnd, loaded, corner, dir.dir(), ""};
+    ModulonSelectionPage page;
+    page.directory = dir.dir();
+    page.pageKind = kMiddlePage;
+    page.setCaption("Plovix Plug-In Manager [page 2a]");
+    page.open(context);
+    ModalDriver driver;
+    driver.on("modulonPage", [](QWidget* dialog) {
+      QCOMPARE(dialog->windowTitle(), QString("Plovix Plug-In Manager [page 2a]"));
+      QVERIFY(dialog->findChild<QRadioButton*>("thdl")->isChecked());
+      typeInto(dialog, "outputName", "");
+      clickChild(dialog, "next");
+    });
+    driver.on("messageBox", [](QWidget* box) {
+      QCOMPARE(qobject_cast<QMessageBox*>(box)->text(),
+               QString("Specify the name of the custom modulon \nvariation file you want to create"));
+      answerBox(box, true);
+    });
+    driver.on("modulonPage", [](QWidget* dialog) {
+      QCOMPARE(dialog->focusWidget(), dialog->findChild<QLineEdit*>("outputName"));
+      typeInto(dialog, "outputName", "sub/name.v");
+      clickChild(dialog, "browse");
+    });
+    driver.on("saveFileDialog", [&](QWidget* widget) {
+      auto* dialog = qobject_cast<QFileDialog*>(widget);
+      QCOMPARE(dialog->windowTitle(), QString("Select file name"));
+      QCOMPARE(dialog->nameFilters(), QStringList({"All Files (*.*)", "THDL Files (*.tdf)",
+                                                   "VHDL Files (*.vhdl)", "Verilog Files (*.v)"}));
+      QCOMPARE(dialog->directory().absolutePath() + "/", QString::fromStdString(dir.path("sub/")));
+      auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+      QVERIFY(name != nullptr);
+      QCOMPARE(name->text(), QString("name.v"));
+      name->setText(QString::fromStdString(dir.path("chosen.vhd")));
+      static_cast<QDialog*>(dialog)->accept();
+    });
+    driver.on("modulonPage", [&](QWidget* dialog) {
+      QString shown = QString::fromStdString(dir.path("chosen.vhd")).replace('/', '\\');
+      QCOMPARE(dialog->findChild<QLineEdit*>("outputName")->text(), shown);
+      clickItem(dialog, "modulonTree", "lpm_counter");
+      clickChild(dialog, "vhdl");
+      clickChild(dialog, "back");
+    });
+    QCOMPARE(frontEnd->showModulonPage(page, context), int(kPageBack));
+    QVERIFY2(driver.finished(), qPrintable(driver.pending().join(",")));
+    QCOMPARE(page.modulonName, std::string("lpm_counter"));
+    QCOMPARE(page.extension, std::string(".vhd"));
+  }
+
+  void createAndEditAVariationByClicking() {
+    TempDir dir;
+    dir.write("lib/count.cnx", kCounterDescription);
+    dir.write("lib/fake-plugin",
+              "#!/bin/sh\n"
+              "echo \"$@\" >> \"$(dirname \"$0\")/args.log\"\n"
+              "cp \"$(dirname \"$0\")/count.cnx\" \"${1%.*}.cnx\"\n");
+    chmod(dir.path("lib/fake-plugin").c_str(), 0755);
+    dir.write("lib/test_wizard.lst",
+              "[arithmetic|counters]\nlpm_counter=" + dir.path("lib/fake-plugin") + "\n");
+    dir.write("proj/.keep", "");
+    qputenv("PLOVIX_LIB_PATH", QByteArray::fromStdString(dir.path("lib")));
+    qputenv("PLOVIX_USER_LIB_PATH", "");
+    qputenv("PLOVIX_PROJECT_DIR", QByteArray::fromStdString(dir.path("proj")));
+
+    ManagerApp app;
+    app.restoreDirectoryAtExit = false;
+    app.fetchProjectDirectory();
+    StandardRunSteps steps(app, *frontEnd, *frontEnd);
+
+    ModalDriver create;
+    create.answerOtherBoxesWithOk();
+    create.on("actionPage", [](QWidget* dialog) { clickChild(dialog, "next"); });
+    create.on(
+        "modulonPage",
+        [](QWidget* dialog) {
+          clickItem(dialog, "modulonTree", "lpm_counter");
+          clickChild(dialog, "verilog");
+          typeInto(dialog, "outputName", "count8");
+          clickChild(dialog, "next");
+        },
+        "2a-modulon-page");
+    runManager(app, *frontEnd, steps, nullptr, nullptr);
+    QVERIFY2(create.finished(), qPrintable(create.pending().join(",")));
+    for (const char* file : {"proj/count8.v", "proj/count8_inst.v", "proj/count8_bb.v", "proj/count8.sym"}) {
+      QVERIFY2(!dir.read(file).empty(), file);
+    }
+    QVERIFY(!TempDir::readFile(dir.path("proj/count8.cnx")).size());
+    QVERIFY(dir.read("proj/count8.v").find("lpm_counter") != std::string::npos);
+
+    ModalDriver edit;
+    edit.answerOtherBoxesWithOk();
+    edit.on("actionPage", [](QWidget* dialog) {
+      clickChild(dialog, "edit");
+      clickChild(dialog, "next");
+    });
+    edit.on(
+        "browserPage",
+        [](QWidget* dialog) {
+          clickChild(dialog, "detailedView");
+          auto* list = dialog->findChild<QTreeWidget*>("fileList");
+          QVERIFY(list != nullptr);
+          QCOMPARE(list->topLevelItemCount(), 1);
+          QCOMPARE(list->topLevelItem(0)->text(2), QString("Verilog HDL"));
+          typeInto(dialog, "fileName", "");
+          clickItem(dialog, "fileList", "count8.v");
+          QCOMPARE(dialog->findChild<QLineEdit*>("fileName")->text(), QString("count8.v"));
+          QCOMPARE(dialog->findChild<QComboBox*>("modulonName")->currentText(), QString("lpm_counter"));
+        },
+        "2b-browser-page");
+    edit.on(
+        "browserPage", [](QWidget* dialog) { clickChild(dialog, "next"); }, "2b-browser-page-detailed");
+    runManager(app, *frontEnd, steps, nullptr, nullptr);
+    QVERIFY2(edit.finished(), qPrintable(edit.pending().join(",")));
+
+    const std::string log = dir.read("lib/args.log");
+    const size_t secondLine = log.find('\n') + 1;
+    QVERIFY(log.substr(0, secondLine).find(" -n ") != std::string::npos);
+    QVERIFY(log.find(dir.path("proj/count8.v"), secondLine) != std::string::npos);
+    QVERIFY(log.find(" -n ", secondLine) == std::string::npos);  // edited, not made anew
+    QVERIFY(!dir.read("proj/count8.v").empty());
+  }
+};
+
+}  // namespace plovix
+
+QTEST_MAIN(plovix::QtPagesTest)
+#include "QtPagesTest.moc"
