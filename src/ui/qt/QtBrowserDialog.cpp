@@ -41,10 +41,11 @@ QToolButton* viewButton(QWidget* parent, std::string_view tip, QStyle::StandardP
 }  // namespace
 
 QtBrowserDialog::QtBrowserDialog(VariationBrowserPage& page, PageContext& context)
-    : QtPageDialog(page, context, QSize(560, 370)), page_(page) {
+    : QtPageDialog(page, context, QSize(560, 392)), page_(page) {
   setObjectName("browserPage");
   (new QLabel(text(pagetexts::kBrowserQuestion), this))->setGeometry(10, 8, 540, 18);
-  (new QLabel(text(pagetexts::kLookInLabel), this))->setGeometry(10, 34, 70, 22);
+  auto* lookInLabel = new QLabel(text(pagetexts::kLookInLabel), this);
+  lookInLabel->setGeometry(10, 34, 70, 22);
   lookIn_ = new QComboBox(this);
   lookIn_->setObjectName("lookIn");
   lookIn_->setGeometry(80, 32, 370, 26);
@@ -76,12 +77,14 @@ QtBrowserDialog::QtBrowserDialog(VariationBrowserPage& page, PageContext& contex
   list_->setGeometry(10, 64, 540, 150);
   registerControl(kControlFileList, list_);
 
-  (new QLabel(text(pagetexts::kFileNameLabel), this))->setGeometry(10, 222, 100, 24);
+  auto* fileNameLabel = new QLabel(text(pagetexts::kFileNameLabel), this);
+  fileNameLabel->setGeometry(10, 222, 100, 24);
   fileName_ = new QLineEdit(this);
   fileName_->setObjectName("fileName");
   fileName_->setGeometry(110, 222, 440, 24);
   registerControl(kControlFileName, fileName_);
-  (new QLabel(text(pagetexts::kFileTypeLabel), this))->setGeometry(10, 252, 100, 24);
+  auto* fileTypeLabel = new QLabel(text(pagetexts::kFileTypeLabel), this);
+  fileTypeLabel->setGeometry(10, 252, 100, 24);
   fileType_ = new QComboBox(this);
   fileType_->setObjectName("fileType");
   fileType_->setGeometry(110, 252, 440, 24);
@@ -92,14 +95,19 @@ QtBrowserDialog::QtBrowserDialog(VariationBrowserPage& page, PageContext& contex
   registerControl(kControlWizardOnly, wizardOnly_);
   auto* note = new QLabel(text(pagetexts::kBrowserModulonNote), this);
   note->setWordWrap(true);
-  note->setGeometry(10, 304, 540, 34);
-  (new QLabel(text(pagetexts::kModulonBoxLabel), this))->setGeometry(10, 342, 100, 24);
+  note->setGeometry(10, 306, 540, 50);
+  auto* modulonLabel = new QLabel(text(pagetexts::kModulonBoxLabel), this);
+  modulonLabel->setGeometry(10, 362, 110, 24);
   modulon_ = new QComboBox(this);
   modulon_->setObjectName("modulonName");
   modulon_->setEditable(true);
   modulon_->setInsertPolicy(QComboBox::NoInsert);
-  modulon_->setGeometry(110, 342, 440, 24);
+  modulon_->setGeometry(120, 362, 430, 24);
   registerControl(kControlModulonBox, modulon_);
+  lookInLabel->setBuddy(lookIn_);
+  fileNameLabel->setBuddy(fileName_);
+  fileTypeLabel->setBuddy(fileType_);
+  modulonLabel->setBuddy(modulon_);
 
   connect(lookIn_, &QComboBox::activated, this, [this](int index) {
     page_.chooseLookIn(context_, index);

@@ -49,15 +49,16 @@ bool runSaveFileDialog(QWidget* parent, const SaveFileRequest& request, std::str
 QtModulonDialog::QtModulonDialog(ModulonSelectionPage& page, PageContext& context)
     : QtPageDialog(page, context, QSize(560, 340)), page_(page) {
   setObjectName("modulonPage");
-  addLabel(this, pagetexts::kModulonTreeLabel, QRect(10, 8, 220, 18))->setObjectName("treeLabel");
+  QLabel* treeLabel = addLabel(this, pagetexts::kModulonTreeLabel, QRect(10, 8, 220, 18));
   tree_ = new QTreeWidget(this);
   tree_->setObjectName("modulonTree");
   tree_->setHeaderHidden(true);
   tree_->setGeometry(10, 28, 220, 302);
   registerControl(kControlModulonTree, tree_);
+  treeLabel->setBuddy(tree_);
 
   addLabel(this, pagetexts::kModulonQuestion, QRect(245, 8, 305, 34), true);
-  addLabel(this, pagetexts::kTypeQuestion, QRect(245, 48, 305, 18));
+  QLabel* typeLabel = addLabel(this, pagetexts::kTypeQuestion, QRect(245, 48, 305, 18));
   const std::string_view names[] = {pagetexts::kThdlButton, pagetexts::kVhdlButton,
                                     pagetexts::kVerilogButton};
   const char* objectNames[] = {"thdl", "vhdl", "verilog"};
@@ -69,11 +70,13 @@ QtModulonDialog::QtModulonDialog(ModulonSelectionPage& page, PageContext& contex
     registerControl(ids[i], languages_[static_cast<size_t>(i)]);
   }
 
-  addLabel(this, pagetexts::kOutputNameLabel, QRect(245, 98, 305, 18));
+  QLabel* outputLabel = addLabel(this, pagetexts::kOutputNameLabel, QRect(245, 98, 305, 18));
   output_ = new QLineEdit(this);
   output_->setObjectName("outputName");
   output_->setGeometry(245, 118, 220, 24);
   registerControl(kControlOutputName, output_);
+  typeLabel->setBuddy(languages_[0]);
+  outputLabel->setBuddy(output_);
   auto* browseButton = new QPushButton(text(pagetexts::kBrowseButton), this);
   browseButton->setObjectName("browse");
   browseButton->setAutoDefault(false);
