@@ -1,6 +1,7 @@
 // Reading the wizard.lst files: directories in path order, files in name order, lines grouped into records.
 #include "catalog/CatalogLoader.h"
 
+#include <algorithm>
 #include <filesystem>
 
 #include "base/FileSystem.h"
@@ -48,6 +49,11 @@ std::string normaliseCommandLine(const std::string& command) {
   return normalised;
 }
 
+// An upper bound of the entries a text can hold.
+size_t lineCount(const std::string& text) {
+  return static_cast<size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
+}
+
 }  // namespace
 
 void CatalogLoader::start() {
@@ -65,6 +71,15 @@ void CatalogLoader::load(const std::string& userPath, const std::string& hostPat
   start();
   scanPath(userPath, true);
   scanPath(hostPath, false);
+  // All files are read first, so that room for every entry is made at once.
+  size_t lines = 0;
+  for (const CatalogFile& file : files_) lines += lineCount(file.text);
+  index_.expect(lines);
+  for (const CatalogFile& file : files_) {
+    directory_ = file.directory;
+    readLines(file.path, file.text);
+  }
+  files_.clear();
   finish();
 }
 
@@ -72,6 +87,7 @@ void CatalogLoader::loadText(const std::string& directory, const std::string& fi
                              const std::string& text) {
   start();
   directory_ = directory;
+  index_.expect(lineCount(text));
   readLines(filePath, text);
   finish();
 }
@@ -86,19 +102,18 @@ void CatalogLoader::scanPath(const std::string& path, bool user) {
     // A separator is added unless the piece ends with one ("\\" or, on this platform, "/").
     if (!endsWith(directory, "\\") && !endsWith(directory, "/")) directory += "/";
     if (user) catalog_.userDirectories_.push_back(directory);
-    directory_ = std::move(directory);
-    scanDirectory();
+    scanDirectory(directory);
   }
 }
 
-void CatalogLoader::scanDirectory() {
-  for (const DirectoryEntry& item : listDirectory(directory_, kCatalogPattern)) {
-    const std::string filePath = directory_ + item.name;
+void CatalogLoader::scanDirectory(const std::string& directory) {
+  for (const DirectoryEntry& item : listDirectory(directory, kCatalogPattern)) {
+    const std::string filePath = directory + item.name;
     if (item.isDirectory || !isRegularFile(filePath)) continue;
     std::string text;
     int errorNumber = 0;
     if (!readTextFile(filePath, text, errorNumber)) continue;
-    readLines(filePath, text);
+    files_.push_back(CatalogFile{directory, filePath, std::move(text)});
   }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "base/UserInterface.h"
 #include "catalog/CatalogVariants.h"
@@ -24,8 +25,15 @@ class CatalogLoader {
   void start();
   void finish();
   void readLines(const std::string& filePath, const std::string& text);
+  // A catalog file found by the scan, read before any of them is processed.
+  struct CatalogFile {
+    std::string directory;
+    std::string path;
+    std::string text;
+  };
+
   void scanPath(const std::string& path, bool user);
-  void scanDirectory();
+  void scanDirectory(const std::string& directory);
   void processRecord(const std::string& record, int line);
   void readSectionLine(const std::string& record, int line);
 
@@ -33,6 +41,7 @@ class CatalogLoader {
   UserInterface& ui_;
   const std::string platform_;
   CatalogVariantIndex index_;
+  std::vector<CatalogFile> files_;
   std::string directory_;
   std::string section_;
   std::string file_;
