@@ -1,0 +1,185 @@
+// Console sessions of the plovix command driven through a pseudo-terminal: a variation is created on the
+// modulon page and then edited through the browser page, by typing the pages' commands.
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <pty.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <string>
+
+#include "TempDir.h"
+
+namespace plovix {
+namespace {
+
+using testing::TempDir;
+
+constexpr const char* kCounterDescription =
+    "GENERATION: STANDARD\n"
+    "VERSION: WM1.0\n"
+    "MODULE: lpm_counter\n"
+    "PARAMETER: WIDTH NUMERIC 8\n"
+    "USED_PORT: clock 0 0 0 0 INPUT NODEFVAL\n"
+    "USED_PORT: q 8 0 0 0 OUTPUT NODEFVAL\n"
+    "CONNECT: lpm_counter@clock 0 0 0 0 clock 0 0 0 0\n"
+    "CONNECT: q 8 0 0 0 lpm_counter@q 8 0 0 0\n";
+
+// plovix --ui console in a pseudo-terminal, with the test's library and project.
+class ConsoleSession {
+ public:
+  ConsoleSession(const TempDir& dir) {
+    pid_ = forkpty(&master_, nullptr, nullptr, nullptr);
+    if (pid_ == 0) {
+      if (chdir(dir.path("proj").c_str()) != 0) _exit(120);
+      setenv("PLOVIX_LIB_PATH", dir.path("lib").c_str(), 1);
+      setenv("PLOVIX_USER_LIB_PATH", "", 1);
+      setenv("PLOVIX_PROJECT_DIR", dir.path("proj").c_str(), 1);
+      unsetenv("DISPLAY");
+      unsetenv("WAYLAND_DISPLAY");
+      const std::string program = std::string(PLOVIX_BINARY_DIR) + "/cli/plovix";
+      execl(program.c_str(), program.c_str(), "--ui", "console", static_cast<char*>(nullptr));
+      _exit(127);
+    }
+  }
+  ~ConsoleSession() {
+    if (pid_ > 0 && !exited_) {
+      kill(pid_, SIGKILL);
+      waitpid(pid_, nullptr, 0);
+    }
+    if (master_ >= 0) close(master_);
+  }
+
+  // Reads until `text` appears after what earlier calls consumed; false after five seconds.
+  bool expect(const std::string& text) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+    for (;;) {
+      const size_t at = output.find(text, consumed_);
+      if (at != std::string::npos) {
+        consumed_ = at + text.size();
+        return true;
+      }
+      if (std::chrono::steady_clock::now() > deadline || !readSome(100)) return false;
+    }
+  }
+  void send(const std::string& line) {
+    const std::string bytes = line + "\n";
+    ASSERT_EQ(write(master_, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
+  }
+  // Waits for the command to end (reading what it still prints) and gives its exit code.
+  int exitCode() {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (std::chrono::steady_clock::now() < deadline) {
+      int status = 0;
+      if (waitpid(pid_, &status, WNOHANG) == pid_) {
+        exited_ = true;
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+      }
+      if (!readSome(100)) usleep(10000);  // the terminal is closed; the command is ending
+    }
+    return -1;
+  }
+
+  std::string output;
+
+ private:
+  bool readSome(int milliseconds) {
+    pollfd fd{master_, POLLIN, 0};
+    if (poll(&fd, 1, milliseconds) <= 0) return true;
+    char buffer[4096];
+    const ssize_t n = read(master_, buffer, sizeof buffer);
+    if (n <= 0) return false;
+    output.append(buffer, static_cast<size_t>(n));
+    return true;
+  }
+
+  pid_t pid_ = -1;
+  int master_ = -1;
+  size_t consumed_ = 0;
+  bool exited_ = false;
+};
+
+class ConsoleSessionTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    dir.write("lib/count.cnx", kCounterDescription);
+    dir.write("lib/fake-plugin",
+              "#!/bin/sh\n"
+              "echo \"$@\" >> \"$(dirname \"$0\")/args.log\"\n"
+              "cp \"$(dirname \"$0\")/count.cnx\" \"${1%.*}.cnx\"\n");
+    chmod(dir.path("lib/fake-plugin").c_str(), 0755);
+    dir.write("lib/test_wizard.lst", "[counters]\nlpm_counter=" + dir.path("lib/fake-plugin") + "\n");
+    dir.write("proj/.keep", "");
+  }
+  TempDir dir;
+};
+
+TEST_F(ConsoleSessionTest, CreatesAVariationAndEditsItThroughTheBrowser) {
+  {
+    ConsoleSession session(dir);
+    ASSERT_TRUE(session.expect("== Plovix Plug-In Manager [page 1] ==")) << session.output;
+    ASSERT_TRUE(session.expect("  1 (*) Create a new custom modulon variation"));
+    ASSERT_TRUE(session.expect("> "));
+    session.send("n");
+    ASSERT_TRUE(session.expect("== Plovix Plug-In Manager [page 2a] ==")) << session.output;
+    ASSERT_TRUE(session.expect("   1  counters/"));
+    ASSERT_TRUE(session.expect("   2    lpm_counter"));
+    ASSERT_TRUE(session.expect("> "));
+    session.send("n");  // nothing selected yet
+    ASSERT_TRUE(session.expect("Select an available modulon"));
+    session.send("");
+    ASSERT_TRUE(session.expect("-> the modulon list"));
+    ASSERT_TRUE(session.expect("> "));
+    session.send("2");
+    ASSERT_TRUE(session.expect("*  2    lpm_counter"));
+    session.send("verilog");
+    ASSERT_TRUE(session.expect("[x] Verilog HDL"));
+    session.send("o count8");
+    ASSERT_TRUE(session.expect("What name do you want for the output file? count8"));
+    session.send("n");
+    EXPECT_EQ(session.exitCode(), 0) << session.output;
+  }
+  EXPECT_FALSE(dir.read("proj/count8.v").empty());
+  EXPECT_FALSE(dir.read("proj/count8_inst.v").empty());
+
+  {
+    ConsoleSession session(dir);
+    ASSERT_TRUE(session.expect("> "));
+    session.send("2");
+    ASSERT_TRUE(session.expect("  2 (*) Edit an existing custom modulon variation"));
+    session.send("n");
+    ASSERT_TRUE(session.expect("== Plovix Plug-In Manager [page 2b] ==")) << session.output;
+    ASSERT_TRUE(session.expect("Look in: " + dir.path("proj/")));
+    ASSERT_TRUE(session.expect("   1  count8.v"));
+    ASSERT_TRUE(session.expect("Modulon name: Not a wizard-generated file"));
+    ASSERT_TRUE(session.expect("> "));
+    session.send("d");
+    ASSERT_TRUE(session.expect("Verilog HDL"));
+    session.send("1");
+    ASSERT_TRUE(session.expect("File name: count8.v"));
+    ASSERT_TRUE(session.expect("Modulon name: lpm_counter"));
+    session.send("n");
+    ASSERT_TRUE(session.expect("OK to overwrite the file(s)?")) << session.output;
+    session.send("o");
+    EXPECT_EQ(session.exitCode(), 0) << session.output;
+  }
+  const std::string log = dir.read("lib/args.log");
+  const size_t second = log.find('\n') + 1;
+  ASSERT_GT(second, 0u);
+  EXPECT_NE(log.find(" -n ", 0), std::string::npos);
+  EXPECT_NE(log.find(dir.path("proj/count8.v"), second), std::string::npos);
+  EXPECT_EQ(log.find(" -n ", second), std::string::npos);  // the second run edited the file
+}
+
+TEST_F(ConsoleSessionTest, EndOfInputCancels) {
+  ConsoleSession session(dir);
+  ASSERT_TRUE(session.expect("> "));
+  session.send("\x04");
+  EXPECT_EQ(session.exitCode(), 1) << session.output;
+}
+
+}  // namespace
+}  // namespace plovix
