@@ -1,6 +1,8 @@
 // Choosing between the window, the terminal prompts and no questions.
 #include "DialogChoice.h"
 
+#include "TerminalForeground.h"
+
 #include <unistd.h>
 
 #include <cstdlib>
@@ -13,6 +15,18 @@
 namespace plovix::wizard {
 
 namespace {
+
+// The prompts, holding the terminal while they ask: the manager starts plug-ins in a process group of their
+// own, which may not read a terminal that another group holds.
+class ForegroundPrompts : public ValueDialog {
+ public:
+  DialogOutcome collect(const Modulon& modulon, const PluginArguments& arguments,
+                        SettingValues& values) override {
+    TerminalForeground foreground;
+    TerminalPrompts prompts(std::cin, std::cerr);
+    return prompts.collect(modulon, arguments, values);
+  }
+};
 
 bool hasDisplay() {
   const char* x11 = std::getenv("DISPLAY");
@@ -33,7 +47,7 @@ ValueDialog* DialogChoice::dialogFor(const PluginArguments& arguments) {
   (void)hasDisplay;
 #endif
   if (isatty(STDIN_FILENO)) {
-    dialog_ = std::make_unique<TerminalPrompts>(std::cin, std::cerr);
+    dialog_ = std::make_unique<ForegroundPrompts>();
     return dialog_.get();
   }
   return nullptr;

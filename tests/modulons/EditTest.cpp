@@ -1,0 +1,153 @@
+// Editing variations: new values regenerate from the retrieval info and keep the others; refused values and a
+// plug-in cancelled at its prompt leave every file as it was.
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <pty.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <filesystem>
+#include <map>
+
+#include "BatchRun.h"
+
+namespace plovix::testing {
+namespace {
+
+// Every file of the directory tree with its bytes.
+std::map<std::string, std::string> snapshot(const TempDir& dir) {
+  std::map<std::string, std::string> files;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(dir.dir())) {
+    if (entry.is_regular_file()) files[entry.path().string()] = TempDir::readFile(entry.path().string());
+  }
+  return files;
+}
+
+std::string retrievalLine(const std::string& design, const std::string& statement) {
+  const size_t at = design.find("Retrieval info: " + statement);
+  return at == std::string::npos ? "" : design.substr(at, design.find('\r', at) - at);
+}
+
+const char* const kCounterArgs = "LPM_WIDTH=8 LPM_DIRECTION=DOWN ACLR=YES COUT=YES";
+
+TEST(EditTest, NewValuesRegenerateAndTheOthersStay) {
+  TempDir dir;
+  ASSERT_EQ(plovixBatch(dir, "lpm_counter", "vhdl", kCounterArgs, "count.vhd").exitCode, 0);
+  const CommandResult edit = plovixBatch(dir, "", "", "LPM_WIDTH=12 lpm_modulus=3000", "count.vhd");
+  ASSERT_EQ(edit.exitCode, 0) << edit.output;
+  const std::string design = dir.read("count.vhd");
+  EXPECT_NE(design.find("q\t\t: OUT STD_LOGIC_VECTOR (11 DOWNTO 0)"), std::string::npos) << design;
+  EXPECT_NE(design.find("aclr\t\t: IN STD_LOGIC  := '0'"), std::string::npos);
+  EXPECT_NE(design.find("LPM_DIRECTION => \"DOWN\""), std::string::npos);
+  EXPECT_NE(design.find("LPM_MODULUS => 3000"), std::string::npos);
+  EXPECT_EQ(retrievalLine(design, "PRIVATE: COUT"), "Retrieval info: PRIVATE: COUT STRING \"YES\"");
+  EXPECT_EQ(retrievalLine(design, "PRIVATE: LPM_WIDTH"), "Retrieval info: PRIVATE: LPM_WIDTH NUMERIC \"12\"");
+  EXPECT_FALSE(std::filesystem::exists(dir.path("count.cnx")));
+
+  // A second edit with no values regenerates the same text.
+  ASSERT_EQ(plovixBatch(dir, "", "", "", "count.vhd").exitCode, 0);
+  EXPECT_EQ(dir.read("count.vhd"), design);
+}
+
+TEST(EditTest, RefusedValuesLeaveEveryFileUnchanged) {
+  TempDir dir;
+  ASSERT_EQ(plovixBatch(dir, "lpm_counter", "verilog", kCounterArgs, "count.v").exitCode, 0);
+  const auto before = snapshot(dir);
+  for (const char* args :
+       {"LPM_WIDTH=99", "LPM_DIRECTION=SIDEWAYS", "WIDTH=4", "LPM_WIDTH=2 LPM_MODULUS=5", "8"}) {
+    const CommandResult edit = plovixBatch(dir, "", "", args, "count.v");
+    EXPECT_EQ(edit.exitCode, 1) << args << "\n" << edit.output;
+    std::filesystem::remove(
+        dir.path("count.cnx"));  // the manager's prepared description stays after a cancel
+    EXPECT_EQ(snapshot(dir), before) << args;
+  }
+  const CommandResult bad = plovixBatch(dir, "", "", "LPM_DIRECTION=SIDEWAYS", "count.v");
+  EXPECT_NE(
+      bad.output.find("\"SIDEWAYS\" is not allowed for LPM_DIRECTION; allowed values: UP, DOWN, UNUSED"),
+      std::string::npos)
+      << bad.output;
+
+  // A new variation refused the same way creates nothing.
+  const CommandResult create =
+      plovixBatch(dir, "lpm_decode", "verilog", "LPM_WIDTH=2 LPM_DECODES=5", "dec.v");
+  EXPECT_EQ(create.exitCode, 1);
+  EXPECT_NE(create.output.find("LPM_DECODES=5 does not fit LPM_WIDTH=2"), std::string::npos) << create.output;
+  EXPECT_FALSE(std::filesystem::exists(dir.path("dec.v")));
+}
+
+// Runs plovix with a terminal as its standard input, ends the input at the plug-in's first prompt, and gives
+// the exit code and everything shown on the terminal.
+CommandResult cancelAtPrompt(const TempDir& dir, const std::string& designFile) {
+  CommandResult result;
+  int master = -1;
+  const pid_t child = forkpty(&master, nullptr, nullptr, nullptr);
+  if (child < 0) return result;
+  if (child == 0) {
+    if (chdir(dir.dir().c_str()) != 0) _exit(126);
+    for (const char* name :
+         {"PLOVIX_LIB_PATH", "PLOVIX_USER_LIB_PATH", "PLOVIX_UI", "DISPLAY", "WAYLAND_DISPLAY"})
+      unsetenv(name);
+    const std::string plovix = std::string(PLOVIX_BINARY_DIR) + "/cli/plovix";
+    execl(plovix.c_str(), plovix.c_str(), "--batch", "--project", dir.dir().c_str(), designFile.c_str(),
+          nullptr);
+    _exit(127);
+  }
+  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+  bool sentEnd = false;
+  for (;;) {
+    pollfd p{master, POLLIN, 0};
+    if (std::chrono::steady_clock::now() > deadline) break;
+    if (poll(&p, 1, 200) > 0) {
+      char buffer[1024];
+      const ssize_t got = read(master, buffer, sizeof buffer);
+      if (got <= 0) break;
+      result.output.append(buffer, got);
+    }
+    if (!sentEnd && result.output.find("LPM_WIDTH: ") != std::string::npos) {
+      const char endOfInput = 4;  // the terminal's end-of-file character at the start of a line
+      sentEnd = write(master, &endOfInput, 1) == 1;
+    }
+  }
+  int status = 0;
+  pid_t ended = 0;
+  for (int tries = 0; tries < 100 && (ended = waitpid(child, &status, WNOHANG)) == 0; ++tries) usleep(100000);
+  if (ended == 0) {
+    // Still running after the input ended or the time ran out: a hang the test reports as a failure.
+    kill(child, SIGKILL);
+    waitpid(child, &status, 0);
+    close(master);
+    return result;
+  }
+  if (WIFEXITED(status)) result.exitCode = WEXITSTATUS(status);
+  close(master);
+  return result;
+}
+
+TEST(EditTest, PluginCancelledAtItsPromptLeavesEveryFileUnchanged) {
+  TempDir dir;
+  ASSERT_EQ(plovixBatch(dir, "lpm_counter", "verilog", kCounterArgs, "count.v").exitCode, 0);
+  const auto before = snapshot(dir);
+  const CommandResult run = cancelAtPrompt(dir, "count.v");
+  EXPECT_NE(run.output.find("LPM_WIDTH: Width of the count output q (a whole number from 1 to 32) [8]: "),
+            std::string::npos)
+      << run.output;
+  EXPECT_NE(run.output.find("Cancelled: no description was written."), std::string::npos) << run.output;
+  EXPECT_EQ(run.exitCode, 1) << run.output;
+  std::filesystem::remove(dir.path("count.cnx"));
+  EXPECT_EQ(snapshot(dir), before);
+}
+
+TEST(EditTest, SymbolOnlyConstantWritesTheDrawnSymbolAlone) {
+  TempDir dir;
+  const CommandResult run =
+      plovixBatch(dir, "lpm_constant", "verilog", "LPM_WIDTH=4 LPM_CVALUE=9 SYMBOL_ONLY=YES", "k9.v");
+  ASSERT_EQ(run.exitCode, 0) << run.output;
+  EXPECT_TRUE(std::filesystem::exists(dir.path("k9.sym")));
+  for (const char* other : {"k9.v", "k9.inc", "k9.cmp", "k9_bb.v", "k9_inst.v"})
+    EXPECT_FALSE(std::filesystem::exists(dir.path(other))) << other;
+}
+
+}  // namespace
+}  // namespace plovix::testing
