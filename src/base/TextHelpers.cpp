@@ -118,20 +118,20 @@ std::string upperBoundText(std::string_view widthIn, std::string_view lowIn) {
   if (widthNumeric && lowNumeric) {
     const int32_t w = boundNumber(width);
     const int32_t l = boundNumber(low);
-    if (w > 0) return formatText("%d", w + l - 1);
-    if (w < 0) return formatText("%d", w + l + 1);
+    if (w > 0) return formatText("%d", wrap32(int64_t{w} + l - 1));
+    if (w < 0) return formatText("%d", wrap32(int64_t{w} + l + 1));
     return low;
   }
   if (widthNumeric) {
     const int32_t w = boundNumber(width);
     if (w >= -1 && w <= 1) return low;
     if (w > 1) return formatText("%s+%d", low.c_str(), w - 1);
-    return formatText("%s-%d", low.c_str(), -(w + 1));
+    return formatText("%s-%lld", low.c_str(), -(int64_t{w} + 1));
   }
   if (lowNumeric) {
     const int32_t l = boundNumber(low);
     if (l == 1) return width;
-    return formatText("%s%+d", width.c_str(), l - 1);
+    return formatText("%s%+lld", width.c_str(), int64_t{l} - 1);
   }
   return low + "+" + width + "-1";
 }
@@ -140,7 +140,7 @@ namespace {
 
 std::string literalDigits(std::string_view valueIn, int digits, bool binary) {
   const std::string value(valueIn);
-  const uint32_t number = static_cast<uint32_t>(std::atoi(value.c_str()));
+  const uint32_t number = static_cast<uint32_t>(atoiText(value));
   std::string printed;
   if (binary) {
     if (number == 0) printed = "0";
