@@ -96,7 +96,7 @@ class QtPagesTest : public QObject {
           QVERIFY(!finish->isEnabled());
           QVERIFY(next->isDefault());
           QVERIFY(dialog->findChild<QRadioButton*>("create")->isChecked());
-          geometry = dialog->frameGeometry();
+          geometry = dialog->geometry();
           clickChild(dialog, "edit");
           clickChild(dialog, "next");
         },
@@ -111,7 +111,12 @@ class QtPagesTest : public QObject {
     // Escape cancels and keeps the stored corner.
     const WindowCorner before = corner;
     ModalDriver cancelling;
-    cancelling.on("actionPage", [](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
+    cancelling.on("actionPage", [&](QWidget* dialog) {
+      // The next page keeps the bottom-right corner the previous one left.
+      QCOMPARE(dialog->geometry().x() + dialog->width(), before.right);
+      QCOMPARE(dialog->geometry().y() + dialog->height(), before.bottom);
+      QTest::keyClick(dialog, Qt::Key_Escape);
+    });
     page.open();
     QCOMPARE(frontEnd->showActionPage(page, context), int(kPageCancel));
     QCOMPARE(corner.right, before.right);

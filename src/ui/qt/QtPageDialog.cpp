@@ -13,8 +13,10 @@ QtPageDialog::QtPageDialog(WizardPageFrame& frame, PageContext& context, QSize t
   setSizeGripEnabled(false);
 }
 
+// The window's rectangle is its client area on the screen: placing and storing use the same rectangle, so
+// pages do not drift by the width of the window manager's decorations.
 std::optional<PixelRect> QtPageDialog::windowRect() const {
-  const QRect r = frameGeometry();
+  const QRect r = geometry();
   return PixelRect{r.x(), r.y(), r.x() + r.width(), r.y() + r.height()};
 }
 
@@ -103,7 +105,7 @@ int QtPageDialog::run() {
   const PixelRect placed = WizardPageFrame::placeWindow(
       context_.corner,
       {screen.left(), screen.top(), screen.left() + screen.width(), screen.top() + screen.height()}, grown);
-  move(placed.left, placed.top);
+  setGeometry(placed.left, placed.top, grown.width(), grown.height());
   addFrameControls();
   pushControls();
   applyButtonStates();
