@@ -38,6 +38,7 @@ TEST_P(BatchCreateTest, CreatesTheVariationAndTheToolsAcceptIt) {
   const Case& c = std::get<0>(GetParam());
   const std::string language = std::get<1>(GetParam());
   TempDir dir;
+  std::filesystem::create_directories(dir.path("out"));
   const std::string name = "v_" + language;
   const CommandResult run =
       plovixBatch(dir, c.modulon, language, c.pluginArgs, "out/" + name + extensionFor(language));

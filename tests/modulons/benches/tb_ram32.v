@@ -8,7 +8,7 @@ module tb_ram32;
 
   ram32 dut (.data(data), .address(address), .we(we), .inclock(inclock), .q(q));
 
-  task edge;
+  task clock_edge;
     begin
       #1 inclock = 1;
       #1 inclock = 0;
@@ -20,7 +20,7 @@ module tb_ram32;
       address = k;
       data = (k * 37 + 5) % 256;
       we = 1;
-      edge;
+      clock_edge;
       if (q !== (k * 37 + 5) % 256) begin
         $display("FAIL write %0d: q=%0d", k, q);
         errors = errors + 1;
@@ -30,7 +30,7 @@ module tb_ram32;
     data = 8'hff;
     for (k = 31; k >= 0; k = k - 3) begin
       address = k;
-      edge;
+      clock_edge;
       if (q !== (k * 37 + 5) % 256) begin
         $display("FAIL read %0d: q=%0d", k, q);
         errors = errors + 1;
