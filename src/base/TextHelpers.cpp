@@ -103,9 +103,14 @@ bool isNumericBound(std::string_view text) {
   return text.find_first_not_of("+-0123456789") == std::string_view::npos;
 }
 
-// The 32-bit value of a number as the C library's conversion reads it.
+// The 32-bit value of a number as the C library's conversion reads it (too many digits wrap, never trap).
 int32_t boundNumber(std::string_view text) {
-  return static_cast<int32_t>(std::atoi(std::string(text).c_str()));
+  return static_cast<int32_t>(static_cast<uint32_t>(atoiText(text)));
+}
+
+// A sum in 32-bit arithmetic, wrapping like the host's integers instead of overflowing.
+int32_t wrap32(long long value) {
+  return static_cast<int32_t>(static_cast<uint32_t>(value));
 }
 
 }  // namespace
@@ -118,20 +123,20 @@ std::string upperBoundText(std::string_view widthIn, std::string_view lowIn) {
   if (widthNumeric && lowNumeric) {
     const int32_t w = boundNumber(width);
     const int32_t l = boundNumber(low);
-    if (w > 0) return formatText("%d", wrap32(int64_t{w} + l - 1));
-    if (w < 0) return formatText("%d", wrap32(int64_t{w} + l + 1));
+    if (w > 0) return formatText("%d", wrap32(static_cast<long long>(w) + l - 1));
+    if (w < 0) return formatText("%d", wrap32(static_cast<long long>(w) + l + 1));
     return low;
   }
   if (widthNumeric) {
     const int32_t w = boundNumber(width);
     if (w >= -1 && w <= 1) return low;
     if (w > 1) return formatText("%s+%d", low.c_str(), w - 1);
-    return formatText("%s-%lld", low.c_str(), -(int64_t{w} + 1));
+    return formatText("%s-%lld", low.c_str(), -(static_cast<long long>(w) + 1));
   }
   if (lowNumeric) {
     const int32_t l = boundNumber(low);
     if (l == 1) return width;
-    return formatText("%s%+lld", width.c_str(), int64_t{l} - 1);
+    return formatText("%s%+lld", width.c_str(), static_cast<long long>(l) - 1);
   }
   return low + "+" + width + "-1";
 }
