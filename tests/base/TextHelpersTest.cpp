@@ -36,7 +36,7 @@ TEST(UpperBoundText, BothNumeric) {
   EXPECT_EQ(upperBoundText(" 8 ", " 2 "), "9");
   EXPECT_EQ(upperBoundText("5-3", "0"), "4");  // numeric characters only: read as 5
   EXPECT_EQ(upperBoundText("", "3"), "3");     // an empty width is the number 0
-  EXPECT_EQ(upperBoundText("2147483647", "1"), "-2147483648") << "32-bit arithmetic wraps";
+  EXPECT_EQ(upperBoundText("2147483647", "2"), "-2147483648") << "32-bit arithmetic wraps";
 }
 
 TEST(UpperBoundText, SymbolicBounds) {
