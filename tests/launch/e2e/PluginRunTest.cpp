@@ -33,6 +33,10 @@ cp "$dir/prepared.cnx" "$cnx"
 code=$(sed -n "${n}p" "$dir/codes" 2>/dev/null)
 [ "$code" = kill ] && kill -KILL $$
 if [ "$code" = hang ]; then echo $$ > "$dir/pid"; exec sleep 30; fi
+if [ "$code" = report ]; then
+  for a in "$@"; do case "$a" in -h*) "$(cat "$dir/sender")" "${a#-h}" 900 -70; echo $? > "$dir/sent";; esac; done
+  exit 0
+fi
 exit ${code:-0}
 )sh";
 
@@ -74,18 +78,31 @@ class PluginRunTest : public ::testing::Test {
 };
 
 TEST_F(PluginRunTest, NewVariationGetsTheFullCommandLineAndItsFiles) {
-  const PlovixResult result =
-      run({"--modulon", "REC", "--language", "thdl", "--plugin-args", "-extra \"two words\"", variation()});
+  PlovixProcess plovix(
+      work, {"--lib-path", lib.dir(), "--user-lib-path", "", "--project", project.dir(), "--modulon", "REC",
+             "--language", "thdl", "--plugin-args", "-extra \"two words\"", variation()});
+  // The manager waits on its main thread, whose id is the process id.
+  const std::string threadId = std::to_string(plovix.pid());
+  const PlovixResult result = plovix.finish();
   ASSERT_TRUE(result.exited(0)) << result.err;
-  const std::string args = lib.read("args-1.txt");
-  EXPECT_EQ(args.substr(0, args.find("-h")),
-            variation() + "|\n-n|\n-symbol|\n-extra|\ntwo words|\n-x500|\n-y500|\n-p2|\n");
-  EXPECT_NE(args.find("-h"), std::string::npos);
+  EXPECT_EQ(
+      lib.read("args-1.txt"),
+      variation() + "|\n-n|\n-symbol|\n-extra|\ntwo words|\n-x500|\n-y500|\n-p2|\n-h" + threadId + "|\n");
   EXPECT_FALSE(exists(lib.path("seen-1.cnx")));
   const std::string design = project.read("var.tdf");
   EXPECT_NE(design.find("modulon wizard: %REC%"), std::string::npos);
   EXPECT_NE(design.find("Retrieval info:"), std::string::npos);
   EXPECT_FALSE(exists(project.path("var.cnx")));  // the work file is gone after generation
+}
+
+// The report can only be delivered while the manager listens on the channel that "-h" names. (That the
+// corner reaches the run is checked in the launch tests; a batch run never shows a page twice to see it.)
+TEST_F(PluginRunTest, PluginReachesThePositionChannelThatHNames) {
+  lib.write("sender", POSITION_SENDER);
+  lib.write("codes", "report\n");
+  const PlovixResult result = run({"--modulon", "REC", "--language", "thdl", variation()});
+  ASSERT_TRUE(result.exited(0)) << result.err;
+  EXPECT_EQ(lib.read("sent"), "0\n");
 }
 
 TEST_F(PluginRunTest, EditingAGeneratedFileIsADirectLaunchFromTheRebuiltDescription) {
