@@ -54,7 +54,8 @@ std::string pluginCommandLine(ManagerApp& app, UserInterface& ui, const std::str
   line += " -symbol ";
   if (!run.extraArguments.empty()) line += " " + run.extraArguments + " ";
   if (!run.directLaunch) {
-    line = formatText("%s -x%d -y%d -p2 -h%ld", line.c_str(), app.corner.right, app.corner.bottom, threadId);
+    // The line "%s -x%d -y%d -p2 -h%d", with the line itself appended as it is.
+    line += formatText(" -x%d -y%d -p2 -h%ld", app.corner.right, app.corner.bottom, threadId);
   }
   return line;
 }
