@@ -1,6 +1,7 @@
 // Building the Qt browser page and forwarding its events.
 #include "ui/qt/QtBrowserDialog.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QShortcut>
@@ -26,6 +27,15 @@ class LookInDelegate : public QStyledItemDelegate {
     indented.rect.setLeft(option.rect.left() + index.data(Qt::UserRole).toInt() * LookInBox::kIndentPerLevel);
     QStyledItemDelegate::paint(painter, indented, index);
   }
+};
+
+// The wait cursor while the list is filled.
+class WaitCursor {
+ public:
+  WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+  ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+  WaitCursor(const WaitCursor&) = delete;
+  WaitCursor& operator=(const WaitCursor&) = delete;
 };
 
 QToolButton* viewButton(QWidget* parent, std::string_view tip, QStyle::StandardPixmap icon, const char* name,
@@ -110,15 +120,24 @@ QtBrowserDialog::QtBrowserDialog(VariationBrowserPage& page, PageContext& contex
   modulonLabel->setBuddy(modulon_);
 
   connect(lookIn_, &QComboBox::activated, this, [this](int index) {
-    page_.chooseLookIn(context_, index);
+    {
+      WaitCursor wait;
+      page_.chooseLookIn(context_, index);
+    }
     afterEvent(false);
   });
   connect(fileType_, &QComboBox::activated, this, [this](int index) {
-    page_.selectFileType(context_, index);
+    {
+      WaitCursor wait;
+      page_.selectFileType(context_, index);
+    }
     afterEvent(false);
   });
   connect(wizardOnly_, &QCheckBox::clicked, this, [this] {
-    page_.clickWizardOnly(context_);
+    {
+      WaitCursor wait;
+      page_.clickWizardOnly(context_);
+    }
     afterEvent(false);
   });
   connect(fileName_, &QLineEdit::textEdited, this, [this](const QString& typed) {
@@ -143,7 +162,10 @@ QtBrowserDialog::QtBrowserDialog(VariationBrowserPage& page, PageContext& contex
   auto* rename = new QShortcut(QKeySequence(Qt::Key_F2), list_, nullptr, nullptr, Qt::WidgetShortcut);
   connect(rename, &QShortcut::activated, this, [this] { startRename(); });
   connect(upOneLevel_, &QToolButton::clicked, this, [this] {
-    page_.upOneLevel(context_);
+    {
+      WaitCursor wait;
+      page_.upOneLevel(context_);
+    }
     afterEvent(false);
   });
   connect(listView_, &QToolButton::clicked, this, [this] {
