@@ -8,16 +8,6 @@
 
 namespace plovix {
 
-namespace {
-
-// The number typed as a command, or 0.
-size_t numberOf(const std::string& text) {
-  if (text.empty() || text.size() > 9 || text.find_first_not_of("0123456789") != std::string::npos) return 0;
-  return std::stoul(text);
-}
-
-}  // namespace
-
 void ConsoleFrontEnd::printBrowserPage(const VariationBrowserPage& page) {
   printTitle(page.windowTitle(""));
   std::fprintf(out_, "%s\n%s %s\n", std::string(pagetexts::kBrowserQuestion).c_str(),
@@ -61,7 +51,7 @@ int ConsoleFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& co
     std::string rest = line;
     const std::string command = splitFirstToken(rest, " \t");
     const std::string argument = trimText(rest);
-    if (const size_t number = numberOf(command); number > 0) {
+    if (const size_t number = consoleNumber(command); number > 0) {
       const int index = static_cast<int>(number) - 1;
       if (index < static_cast<int>(page.list.items().size())) {
         if (page.list.items()[static_cast<size_t>(index)].kind == kFolderKind) {
@@ -78,7 +68,7 @@ int ConsoleFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& co
     } else if (command == "u") {
       page.upOneLevel(context);
     } else if (command == "l") {
-      const size_t number = numberOf(argument);
+      const size_t number = consoleNumber(argument);
       if (number == 0) {
         for (size_t i = 0; i < page.lookIn.items().size(); ++i) {
           const LookInItem& item = page.lookIn.items()[i];
@@ -90,7 +80,7 @@ int ConsoleFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& co
         page.chooseLookIn(context, static_cast<int>(number) - 1);
       }
     } else if (command == "t") {
-      const size_t number = numberOf(argument);
+      const size_t number = consoleNumber(argument);
       if (number == 0) {
         for (size_t i = 0; i < page.fileTypes.size(); ++i) {
           std::fprintf(out_, "%4zu  %s\n", i + 1, page.fileTypes[i].first.c_str());
@@ -101,7 +91,7 @@ int ConsoleFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& co
     } else if (command == "w") {
       page.clickWizardOnly(context);
     } else if (command == "m") {
-      const size_t number = numberOf(argument);
+      const size_t number = consoleNumber(argument);
       if (argument.empty()) {
         for (size_t i = 0; i < page.modulonItems.size(); ++i) {
           std::fprintf(out_, "%4zu  %s\n", i + 1, page.modulonItems[i].c_str());
@@ -112,11 +102,11 @@ int ConsoleFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& co
         page.modulonText = argument;
       }
     } else if (command == "s") {
-      const size_t number = numberOf(argument);
+      const size_t number = consoleNumber(argument);
       if (number >= 1 && number <= 4) page.list.sortBy(static_cast<int>(number) - 1);
     } else if (command == "r") {
       std::string names = argument;
-      const size_t number = numberOf(splitFirstToken(names, " \t"));
+      const size_t number = consoleNumber(splitFirstToken(names, " \t"));
       const int index = number > 0 ? static_cast<int>(number) - 1 : page.renameTarget();
       page.renameItem(context, index, trimText(names));
     } else if (command == "d") {

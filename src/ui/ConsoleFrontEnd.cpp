@@ -63,6 +63,11 @@ void ConsoleFrontEnd::printFocus(WizardPageFrame& page,
   page.focusControl = 0;
 }
 
+size_t consoleNumber(const std::string& text) {
+  if (text.empty() || text.size() > 9 || text.find_first_not_of("0123456789") != std::string::npos) return 0;
+  return std::stoul(text);
+}
+
 std::string consoleLabel(std::string_view text) {
   std::string out;
   for (size_t i = 0; i < text.size(); ++i) {

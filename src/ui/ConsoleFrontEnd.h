@@ -15,6 +15,9 @@ namespace plovix {
 // A control or button text as the terminal shows it: without its mnemonic "&".
 std::string consoleLabel(std::string_view text);
 
+// The number a command consists of (at most nine digits), or 0 when it is not one.
+size_t consoleNumber(const std::string& text);
+
 class ConsoleFrontEnd : public FrontEnd {
  public:
   explicit ConsoleFrontEnd(FrontEndOptions options, std::FILE* in = stdin, std::FILE* out = stdout)

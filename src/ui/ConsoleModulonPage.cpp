@@ -49,9 +49,8 @@ int ConsoleFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext& co
     }
     const std::string command = line.substr(0, line.find(' '));
     const std::string argument = line.size() > command.size() ? trimText(line.substr(command.size())) : "";
-    if (!command.empty() && command.find_first_not_of("0123456789") == std::string::npos) {
-      const size_t number = std::stoul(command);
-      if (number >= 1 && number <= order.size()) page.tree.select(order[number - 1].first);
+    if (const size_t number = consoleNumber(command); number > 0) {
+      if (number <= order.size()) page.tree.select(order[number - 1].first);
     } else if (command == "thdl" || command == "vhdl" || command == "verilog") {
       page.languageIndex = command == "thdl" ? 0 : command == "vhdl" ? 1 : 2;
     } else if (command == "o") {
