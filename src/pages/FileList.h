@@ -47,7 +47,7 @@ class FileList {
   void renameItem(size_t index, const std::string& name) { items_[index].name = name; }
 
   bool wizardOnly = true;
-  bool detailedView = false;
+  bool detailedView = false;  // the list starts in list view
 
  private:
   std::vector<FileListItem> items_;

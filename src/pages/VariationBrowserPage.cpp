@@ -55,8 +55,8 @@ void VariationBrowserPage::open(PageContext& context) {
   selectFileTypeOf(extension);
 
   wizardOnlyChecked = showOnlyWizardFiles;
+  list = FileList();  // the list of an earlier showing is gone with its window
   list.wizardOnly = wizardOnlyChecked;
-  list.detailedView = false;
   selectedItem = -1;
   list.fill(context.ui, directory, currentPattern());
 

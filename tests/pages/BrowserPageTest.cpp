@@ -91,6 +91,12 @@ TEST_F(BrowserPageTest, OpeningFillsTypesModulonsAndTheWizardOnlyList) {
 
   page.extension = ".txt";
   page.modulonName = "UNLISTED";
+  page.list.detailedView = true;
+  page.directory = files.path("missing/");
+  page.open(context);
+  EXPECT_TRUE(names().empty());  // nothing of the earlier showing stays when the folder cannot be listed
+  EXPECT_FALSE(page.list.detailedView);
+  page.directory = files.dir();
   page.open(context);
   EXPECT_EQ(page.selectedFileType, 0);
   EXPECT_EQ(names(), (Strings{"Beta.v", "count.tdf", "old.vhd", "sub"}));
