@@ -13,10 +13,12 @@ namespace plovix {
 
 QtFrontEnd::QtFrontEnd(FrontEndOptions options) : options_(std::move(options)) {
   if (QApplication::instance() == nullptr) ownApplication_ = std::make_unique<QApplication>(argc_, argv_);
-  QObject::connect(qApp, &QCoreApplication::aboutToQuit, [this] { quitRequested_ = true; });
+  quitConnection_ = QObject::connect(qApp, &QCoreApplication::aboutToQuit, [this] { quitRequested_ = true; });
 }
 
-QtFrontEnd::~QtFrontEnd() = default;
+QtFrontEnd::~QtFrontEnd() {
+  QObject::disconnect(quitConnection_);
+}
 
 namespace {
 

@@ -30,6 +30,7 @@ class QtFrontEnd : public FrontEnd {
   char* argv_[2] = {programName_, nullptr};
   std::unique_ptr<QApplication> ownApplication_;
   bool quitRequested_ = false;
+  QMetaObject::Connection quitConnection_;
 };
 
 }  // namespace plovix
