@@ -14,6 +14,7 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "PluginMessages.h"
@@ -62,10 +63,12 @@ void placeAt(QDialog& dialog, const PluginArguments& arguments) {
 
 DialogOutcome WindowDialog::collect(const Modulon& modulon, const PluginArguments& arguments,
                                     SettingValues& values) {
+  // The plug-in makes its own application; a host that already has one (a test) keeps it.
   int argc = 1;
   char name[] = "plovix-wizard";
   char* argv[] = {name, nullptr};
-  QApplication application(argc, argv);
+  std::unique_ptr<QApplication> application;
+  if (QApplication::instance() == nullptr) application = std::make_unique<QApplication>(argc, argv);
 
   QDialog dialog;
   dialog.setWindowTitle(QString::fromStdString(dialogTitleText(modulon.name, modulon.title)));
@@ -104,6 +107,9 @@ DialogOutcome WindowDialog::collect(const Modulon& modulon, const PluginArgument
     dialog.done(QDialog::Accepted);
   });
 
+  // Shown first, so that the frame around the window is known when it is placed.
+  dialog.setModal(true);
+  dialog.show();
   placeAt(dialog, arguments);
   dialog.exec();
   if (arguments.managerThread != 0) {
