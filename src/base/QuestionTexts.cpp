@@ -112,6 +112,11 @@ std::string xmlParsingError() {
   return "Error in parsing the XML document encountered";
 }
 
+std::string qtFrontEndUnavailable(bool usingConsole) {
+  return std::string("the Qt front end needs a display and a build with Qt 6; using the ") +
+         (usingConsole ? "console" : "batch") + " front end instead";
+}
+
 std::string makerNotice() {
   return "plovix is free software; the files it generates are yours to use and share.";
 }

@@ -37,6 +37,9 @@ std::string basedOnOtherModulon(const std::string& path, const std::string& file
 // XML reader used without a source or handler.
 std::string xmlParsingError();
 
+// The note shown when the Qt front end was asked for but cannot open windows here.
+std::string qtFrontEndUnavailable(bool usingConsole);
+
 // The one-line notice of the maker on the action page.
 std::string makerNotice();
 

@@ -3,7 +3,10 @@
 
 #include <unistd.h>
 
+#include <cstdio>
+
 #include "base/FileSystem.h"
+#include "base/QuestionTexts.h"
 #include "base/TextHelpers.h"
 #include "ui/BatchFrontEnd.h"
 #include "ui/ConsoleFrontEnd.h"
@@ -42,18 +45,29 @@ bool qtFrontEndAvailable() {
 #endif
 }
 
+namespace {
+
+// Whether Qt can open windows here: a display, or a platform plug-in chosen explicitly (offscreen, say).
+bool displayAvailable() {
+  return !environmentVariable("DISPLAY").empty() || !environmentVariable("WAYLAND_DISPLAY").empty() ||
+         !environmentVariable("QT_QPA_PLATFORM").empty();
+}
+
+FrontEndKind terminalOrBatch() {
+  return isatty(STDIN_FILENO) ? FrontEndKind::kConsole : FrontEndKind::kBatch;
+}
+
+}  // namespace
+
 std::unique_ptr<FrontEnd> makeFrontEnd(const FrontEndOptions& options) {
   FrontEndKind kind = options.kind;
   if (kind == FrontEndKind::kAutomatic) {
-    const bool display =
-        !environmentVariable("DISPLAY").empty() || !environmentVariable("WAYLAND_DISPLAY").empty();
-    if (display && qtFrontEndAvailable()) {
-      kind = FrontEndKind::kQt;
-    } else if (isatty(STDIN_FILENO)) {
-      kind = FrontEndKind::kConsole;
-    } else {
-      kind = FrontEndKind::kBatch;
-    }
+    kind = displayAvailable() && qtFrontEndAvailable() ? FrontEndKind::kQt : terminalOrBatch();
+  } else if (kind == FrontEndKind::kQt && !(displayAvailable() && qtFrontEndAvailable())) {
+    // Asking for windows where none can open falls back to the terminal instead of failing.
+    kind = terminalOrBatch();
+    std::fprintf(stderr, "plovix: %s\n",
+                 questions::qtFrontEndUnavailable(kind == FrontEndKind::kConsole).c_str());
   }
 #ifdef PLOVIX_HAVE_QT
   if (kind == FrontEndKind::kQt) return makeQtFrontEnd(options);
