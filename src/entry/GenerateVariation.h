@@ -10,7 +10,7 @@ namespace plovix {
 
 // Writes the design file, companions, symbol and templates of app.run's description for `outputPath`, then
 // hands the native-language copy to the host. False when the user stopped at the same-name check.
-bool generateVariationFiles(ManagerApp& app, UserInterface& ui, const std::string& outputPath, bool writeDesign,
-                            bool writeSymbol);
+bool generateVariationFiles(ManagerApp& app, UserInterface& ui, const std::string& outputPath,
+                            bool writeDesign, bool writeSymbol);
 
 }  // namespace plovix
