@@ -21,13 +21,13 @@ PLOVIX_HOST_API const char* ge_get_qelvix_lib_path(void);
 PLOVIX_HOST_API int cpt_zpip_write_file(const char* path, const char* text, int flags, int reserved);
 
 /* GIO: the symbol drawing database.
- * Handles: an instance (a drawing) and a record (one element of a drawing) are 16-bit numbers, 0 meaning none.
- * Record types: 2 horizontal line, 3 vertical line, 4 other line, 5 arc, 6 circle, 7 text.
- * Points are passed by address. Functions without a value of their own return 1 on success, 0 on failure
- * (an unknown instance or record, a record of another type, a missing argument).
- * Drawing units are pixels of a 96 dpi display. The .sym file format is described in docs/sym-format.md.
- * Setting PLOVIX_GIO_TRACE=FILE appends one line per gio_ call to FILE: the name, the arguments in order
- * and the result, e.g. `gio_rec_create(1, 7) -> 2`. */
+ * Handles: an instance (a drawing) and a record (one element of a drawing) are 16-bit numbers, 0 meaning
+ * none. Record types: 2 horizontal line, 3 vertical line, 4 other line, 5 arc, 6 circle, 7 text. Points are
+ * passed by address. Functions without a value of their own return 1 on success, 0 on failure (an unknown
+ * instance or record, a record of another type, a missing argument). Drawing units are pixels of a 96 dpi
+ * display. The .sym file format is described in docs/sym-format.md. Setting PLOVIX_GIO_TRACE=FILE appends one
+ * line per gio_ call to FILE: the name, the arguments in order and the result, e.g. `gio_rec_create(1, 7) ->
+ * 2`. */
 typedef struct gio_point {
   int x;
   int y;
@@ -81,11 +81,13 @@ PLOVIX_HOST_API int gio_line_set_style(short instance, int type, short rec, int 
 PLOVIX_HOST_API int gio_line_set_width(short instance, int type, short rec, int width);
 
 /* Circles and arcs. An arc runs counterclockwise (as seen on the sheet) from its start to its end point. */
-PLOVIX_HOST_API int gio_circle_set_coordinates(short instance, short rec, const gio_point* centre, int radius);
+PLOVIX_HOST_API int gio_circle_set_coordinates(short instance, short rec, const gio_point* centre,
+                                               int radius);
 PLOVIX_HOST_API int gio_circle_set_attr_fill(short instance, short rec, int filled);
 PLOVIX_HOST_API int gio_arc_set_coordinates(short instance, short rec, const gio_point* centre, int radius,
                                             int first_angle, int second_angle);
-PLOVIX_HOST_API int gio_arc_set_points(short instance, short rec, const gio_point* start, const gio_point* end);
+PLOVIX_HOST_API int gio_arc_set_points(short instance, short rec, const gio_point* start,
+                                       const gio_point* end);
 
 /* Texts (type 7). The start point is the top left corner of the horizontal text; a vertical text
  * (orientation 1) is that box turned a quarter counterclockwise about its centre. Display 0 hides a text, and

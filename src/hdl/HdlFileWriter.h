@@ -15,7 +15,8 @@ namespace plovix {
 class HdlFileWriter {
  public:
   // `basePath` is the output directory followed by the variation's base name, without extension.
-  HdlFileWriter(UserInterface& ui, std::string basePath, std::string signatureName, CnxDescription& description);
+  HdlFileWriter(UserInterface& ui, std::string basePath, std::string signatureName,
+                CnxDescription& description);
   virtual ~HdlFileWriter() = default;
   HdlFileWriter(const HdlFileWriter&) = delete;
   HdlFileWriter& operator=(const HdlFileWriter&) = delete;
@@ -49,7 +50,8 @@ class HdlFileWriter {
   void buildSubModulePorts();
   // The first wire whose sourceKey equals `key`, or null.
   NetlistWire* findWire(const std::string& key);
-  // Appends a wire with a fresh "sub_wire%d" name and gives the name; nothing and "" for an empty source text.
+  // Appends a wire with a fresh "sub_wire%d" name and gives the name; nothing and "" for an empty source
+  // text.
   std::string newWire(const std::string& sourceText, const std::string& key, const std::string& drivingPort,
                       const std::string& width1, const std::string& width2, bool inverted, bool constant);
   // The wire that carries a connection's driving end, found or created.

@@ -325,9 +325,9 @@ TEST_F(ListedModulonTest, RecognisedVariationSkipsThePages) {
   run(path.c_str());
   const std::string out = temp.dir() + "c";
   EXPECT_TRUE(ui.boxes.empty());
-  EXPECT_EQ(steps.log, (Log{"catalog", "extract:" + out + ".v", "launch:lpm_counter edit direct",
-                            "read:" + out + ".cnx", "clash", "generate:" + out + ".v design symbol", "delete",
-                            "script"}));
+  EXPECT_EQ(steps.log,
+            (Log{"catalog", "extract:" + out + ".v", "launch:lpm_counter edit direct", "read:" + out + ".cnx",
+                 "clash", "generate:" + out + ".v design symbol", "delete", "script"}));
 }
 
 TEST_F(ListedModulonTest, BackFromADirectLaunchOpensTheModulonPage) {
@@ -335,8 +335,8 @@ TEST_F(ListedModulonTest, BackFromADirectLaunchOpensTheModulonPage) {
   const std::string path = temp.path("c.tdf");
   steps.launches = {{true, 3}};
   run(path.c_str());
-  EXPECT_EQ(steps.log, (Log{"catalog", "extract:" + temp.dir() + "c.tdf", "launch:lpm_counter edit direct",
-                            kPage2a}));
+  EXPECT_EQ(steps.log,
+            (Log{"catalog", "extract:" + temp.dir() + "c.tdf", "launch:lpm_counter edit direct", kPage2a}));
 }
 
 }  // namespace

@@ -64,7 +64,8 @@ static void checkNameReturn(NameReturnFn nameReturn, const char* project) {
 
   memset(buffer, 'x', sizeof buffer);
   nameReturn(buffer, 5);
-  check(memcmp(buffer, project, 4) == 0 && buffer[4] == '\0' && buffer[5] == 'x', "size 5: four characters and NUL");
+  check(memcmp(buffer, project, 4) == 0 && buffer[4] == '\0' && buffer[5] == 'x',
+        "size 5: four characters and NUL");
 
   memset(buffer, 'x', sizeof buffer);
   nameReturn(buffer, (uint32_t)length);
@@ -103,7 +104,8 @@ int main(int argc, char** argv) {
   /* Unloading makes the project directory the working directory. */
   dlclose(library);
   char cwd[512];
-  check(getcwd(cwd, sizeof cwd) != NULL && strcmp(cwd, project) == 0, "unloading enters the project directory");
+  check(getcwd(cwd, sizeof cwd) != NULL && strcmp(cwd, project) == 0,
+        "unloading enters the project directory");
   if (chdir("/") != 0) return 2;
   rmdir(project);
 
