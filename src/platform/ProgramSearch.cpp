@@ -22,9 +22,9 @@ std::string searchPathFor(const std::string& name, const std::string& searchPath
   size_t start = 0;
   while (start <= searchPath.size()) {
     const size_t end = std::min(searchPath.find(':', start), searchPath.size());
-    std::string directory = searchPath.substr(start, end - start);
+    // An empty entry of the search path means the working directory.
+    std::string directory = end > start ? searchPath.substr(start, end - start) : std::string(".");
     start = end + 1;
-    if (directory.empty()) directory = ".";
     if (directory.back() != '/') directory += '/';
     for (const std::string& candidate : {directory + name, directory + name + ".exe"}) {
       if (isExecutableFile(candidate)) return candidate;
