@@ -204,6 +204,16 @@ void NetlistBuild::addEnd(const std::string& instance, const std::string& port, 
 void HdlFileWriter::buildNetlist() {
   NetlistBuild build(*this, description_);
   CnxConnectionMap& map = description_.connectionMap;
+  // One connection (and at most one wire) per driven end, plus the sentinel: reserving them once keeps large
+  // descriptions from moving the lists again and again while they grow.
+  size_t drivenEnds = 0;
+  map.forEach([&drivenEnds](const std::string&, const CnxPortMap& ports) {
+    ports.forEach([&drivenEnds](const std::string&, const CnxEndList& ends) {
+      for (const CnxConnectionEnd& end : ends) drivenEnds += end.peerIsSource ? 1 : 0;
+    });
+  });
+  connections.reserve(connections.size() + drivenEnds + 1);
+  wires.reserve(wires.size() + drivenEnds);
   for (const std::string& instance : map.keys()) {
     CnxPortMap& ports = *map.find(instance);
     for (const std::string& port : ports.keys()) {
