@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "base/TextHelpers.h"
 #include "hdl/HdlFileWriter.h"
@@ -11,11 +12,14 @@ namespace plovix {
 
 namespace {
 
-bool hasBidirOutput(const CnxDescription& description, const std::string& name) {
+// The names of the variation's bidirectional ports, looked up once instead of scanning the outputs per
+// record.
+std::unordered_set<std::string> bidirOutputNames(const CnxDescription& description) {
+  std::unordered_set<std::string> names;
   for (const CnxUsedPort& port : description.outputPorts) {
-    if (port.name == name && port.direction == "BIDIR") return true;
+    if (port.direction == "BIDIR") names.insert(port.name);
   }
-  return false;
+  return names;
 }
 
 void mergeEnd(SubModulePort& record, const CnxConnectionEnd& e) {
@@ -32,7 +36,7 @@ void mergeEnd(SubModulePort& record, const CnxConnectionEnd& e) {
   record.low2 = decimalText(std::min(atoiText(record.low2), atoiText(e.ownLow2)));
 }
 
-SubModulePort newRecord(const CnxDescription& description, const std::string& moduleName,
+SubModulePort newRecord(const std::unordered_set<std::string>& bidirOutputs, const std::string& moduleName,
                         const std::string& port, const CnxConnectionEnd& e) {
   SubModulePort record;
   record.moduleName = moduleName;
@@ -43,14 +47,19 @@ SubModulePort newRecord(const CnxDescription& description, const std::string& mo
   record.low2 = e.ownLow2;
   record.scalar = e.ownWidth1 == "0" && e.ownLow1 == "0" && e.ownWidth2 == "0" && e.ownLow2 == "0";
   record.directionWord = e.peerIsSource ? "IN" : "OUT";
-  if (e.peerInstance.empty() && hasBidirOutput(description, e.peerPort)) record.directionWord = "INOUT";
+  if (e.peerInstance.empty() && bidirOutputs.count(e.peerPort) != 0) record.directionWord = "INOUT";
   return record;
 }
 
 }  // namespace
 
 void HdlFileWriter::buildSubModulePorts() {
+  const std::unordered_set<std::string> bidirOutputs = bidirOutputNames(description_);
   std::unordered_map<std::string, size_t> recordOf;  // module name + '\0' + port name
+  // Records already in the list are merged into, so that a second call adds nothing twice.
+  for (size_t i = 0; i < subModulePorts.size(); ++i) {
+    recordOf.try_emplace(subModulePorts[i].moduleName + '\0' + subModulePorts[i].portName, i);
+  }
   for (const CnxModule& module : description_.modules) {
     const CnxPortMap* ports = description_.connectionMap.find(module.instanceName);
     if (ports == nullptr) continue;
@@ -61,7 +70,7 @@ void HdlFileWriter::buildSubModulePorts() {
           mergeEnd(subModulePorts[it->second], e);
         } else {
           recordOf.emplace(key, subModulePorts.size());
-          subModulePorts.push_back(newRecord(description_, module.moduleName, port, e));
+          subModulePorts.push_back(newRecord(bidirOutputs, module.moduleName, port, e));
         }
       }
     });
