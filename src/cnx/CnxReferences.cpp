@@ -19,6 +19,24 @@ std::string_view withoutInversion(std::string_view text) {
 // The four values of a reference: width1, low1, width2, low2.
 using Bounds = std::array<std::string, 4>;
 
+// One end of a connection as filed under the other end's key: the peer's name and bounds, and the bounds it
+// has on the own side.
+CnxConnectionEnd connectionEnd(const std::string& peerInstance, const std::string& peerPort,
+                               const Bounds& peerBounds, const Bounds& ownBounds) {
+  CnxConnectionEnd end;
+  end.peerInstance = peerInstance;
+  end.peerPort = peerPort;
+  end.peerWidth1 = peerBounds[0];
+  end.peerLow1 = peerBounds[1];
+  end.peerWidth2 = peerBounds[2];
+  end.peerLow2 = peerBounds[3];
+  end.ownWidth1 = ownBounds[0];
+  end.ownLow1 = ownBounds[1];
+  end.ownWidth2 = ownBounds[2];
+  end.ownLow2 = ownBounds[3];
+  return end;
+}
+
 bool readBounds(CnxOperands& in, Bounds& bounds) {
   for (std::string& value : bounds) {
     if (!in.value(value)) return false;
@@ -106,32 +124,11 @@ bool readConnectStatement(CnxOperands& in, CnxEndFiler& filer) {
       isTwoDimensional(driverBounds[0], driverBounds[2])) {
     d.uses2D = true;
   }
-  CnxConnectionEnd toDriver;
-  toDriver.peerInstance = driver.instance;
-  toDriver.peerPort = driver.port;
-  toDriver.peerWidth1 = driverBounds[0];
-  toDriver.peerLow1 = driverBounds[1];
-  toDriver.peerWidth2 = driverBounds[2];
-  toDriver.peerLow2 = driverBounds[3];
-  toDriver.ownWidth1 = drivenBounds[0];
-  toDriver.ownLow1 = drivenBounds[1];
-  toDriver.ownWidth2 = drivenBounds[2];
-  toDriver.ownLow2 = drivenBounds[3];
+  CnxConnectionEnd toDriver = connectionEnd(driver.instance, driver.port, driverBounds, drivenBounds);
   toDriver.peerIsSource = true;
   toDriver.peerInverted = driver.inverted;
   toDriver.peerIsConstant = constant;
-
-  CnxConnectionEnd toDriven;
-  toDriven.peerInstance = driven.instance;
-  toDriven.peerPort = driven.port;
-  toDriven.peerWidth1 = drivenBounds[0];
-  toDriven.peerLow1 = drivenBounds[1];
-  toDriven.peerWidth2 = drivenBounds[2];
-  toDriven.peerLow2 = drivenBounds[3];
-  toDriven.ownWidth1 = driverBounds[0];
-  toDriven.ownLow1 = driverBounds[1];
-  toDriven.ownWidth2 = driverBounds[2];
-  toDriven.ownLow2 = driverBounds[3];
+  CnxConnectionEnd toDriven = connectionEnd(driven.instance, driven.port, drivenBounds, driverBounds);
 
   filer.file(driven.instance, driven.port, std::move(toDriver));
   filer.file(driver.instance, driver.port, std::move(toDriven));
