@@ -151,7 +151,7 @@ bool resolvePath(UserInterface& ui, const std::string& path, std::string& outDir
   outFile.clear();
   WorkingDirectoryGuard guard;
   const bool ok = resolveHere(path, outDirectory, outFile);
-  if (!ok) reportError(ui, 21, path);
+  if (!ok) reportError(ui, Msg::kDoesNotExist, path);
   return ok;
 }
 

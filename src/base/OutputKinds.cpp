@@ -54,13 +54,13 @@ struct NameRule {
   bool tilde;            // "~" allowed
   bool underscoreFirst;  // "_" may begin the name
   bool letterFirst;      // the first character must be a letter (or "_" when underscoreFirst)
-  ErrorCode code;
+  Msg message;           // the rule's report
 };
 
 constexpr NameRule kNameRules[] = {
-    {".tdf", true, true, false, 38},
-    {".vhd", false, false, true, 40},
-    {".v", false, true, true, 39},
+    {".tdf", true, true, false, Msg::kIllegalThdlName},
+    {".vhd", false, false, true, Msg::kIllegalVhdlName},
+    {".v", false, true, true, Msg::kIllegalVerilogName},
 };
 
 }  // namespace
@@ -71,7 +71,7 @@ bool checkOutputFileName(UserInterface& ui, std::string_view extension, std::str
     for (char c : baseName) {
       const bool allowed = isIn(kDigits, c) || isIn(kLetters, c) || c == '_' || (rule.tilde && c == '~');
       if (!allowed) {
-        reportError(ui, rule.code);
+        reportError(ui, rule.message);
         return false;
       }
     }
@@ -79,7 +79,7 @@ bool checkOutputFileName(UserInterface& ui, std::string_view extension, std::str
       const bool ok = !baseName.empty() &&
                       (isIn(kLetters, baseName.front()) || (rule.underscoreFirst && baseName.front() == '_'));
       if (!ok) {
-        reportError(ui, rule.code);
+        reportError(ui, rule.message);
         return false;
       }
     }

@@ -1,4 +1,4 @@
-// Every question and note the system shows besides the error table, built from their fixed texts.
+// The questions and notes the system shows, each built from its text in the message table (base/Messages.h).
 #pragma once
 
 #include <string>
@@ -20,7 +20,6 @@ std::string cannotExecuteCommand(const std::string& command, const std::string& 
 std::string renamedVariation(const std::string& fileTitle, const std::string& newName);
 std::string thdlFallback();
 std::string sameNameFiles(int count, const std::string& list);
-std::string existingOutputsHeader();
 std::string symbolUpdateNote();
 std::string overwriteExistingOutputs(const std::string& list);
 

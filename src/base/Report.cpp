@@ -31,31 +31,31 @@ FileErrorCause fileErrorCauseFromErrno(int errorNumber) {
   }
 }
 
-ErrorCode errorCodeOfCause(FileErrorCause cause) {
+Msg messageOfCause(FileErrorCause cause) {
   switch (cause) {
     case FileErrorCause::kFileNotFound:
-      return 2;
+      return Msg::kFileNotOpened;
     case FileErrorCause::kBadPath:
-      return 3;
+      return Msg::kInvalidFilePath;
     case FileErrorCause::kSharingViolation:
-      return 4;
+      return Msg::kSharingViolation;
     case FileErrorCause::kAccessDenied:
-      return 5;
+      return Msg::kAccessDenied;
     case FileErrorCause::kDiskFull:
-      return 6;
+      return Msg::kDiskFull;
     case FileErrorCause::kEndOfFile:
-      return 7;
+      return Msg::kUnexpectedEndOfFile;
     case FileErrorCause::kHardwareError:
-      return 8;
+      return Msg::kHardwareError;
     case FileErrorCause::kGeneric:
       break;
   }
-  return 1;
+  return Msg::kUnknownFileError;
 }
 
-std::string errorMessage(ErrorCode code, const std::string& a1, const std::string& a2, const std::string& a3,
+std::string errorMessage(Msg id, const std::string& a1, const std::string& a2, const std::string& a3,
                          const std::string& a4, const std::string& a5) {
-  const std::string_view text = errorText(code);
+  const std::string_view text = errorText(id);
   const std::string* args[] = {&a1, &a2, &a3, &a4, &a5};
   std::string out;
   size_t next = 0;
@@ -71,13 +71,13 @@ std::string errorMessage(ErrorCode code, const std::string& a1, const std::strin
   return out;
 }
 
-void reportError(UserInterface& ui, ErrorCode code, const std::string& a1, const std::string& a2,
+void reportError(UserInterface& ui, Msg id, const std::string& a1, const std::string& a2,
                  const std::string& a3, const std::string& a4, const std::string& a5) {
-  ui.report(errorMessage(code, a1, a2, a3, a4, a5));
+  ui.report(errorMessage(id, a1, a2, a3, a4, a5));
 }
 
 void reportFileError(UserInterface& ui, FileErrorCause cause, const std::string& path) {
-  reportError(ui, errorCodeOfCause(cause), path);
+  reportError(ui, messageOfCause(cause), path);
 }
 
 void reportFileErrno(UserInterface& ui, int errorNumber, const std::string& path) {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "base/ErrorTable.h"
+#include "base/Messages.h"
 #include "base/UserInterface.h"
 
 namespace plovix {
@@ -22,15 +22,16 @@ enum class FileErrorCause {
 // The cause of a failed file operation from the platform's errno value.
 FileErrorCause fileErrorCauseFromErrno(int errorNumber);
 
-// The table code of a cause (1 to 8).
-ErrorCode errorCodeOfCause(FileErrorCause cause);
+// The message of a cause (numbers 1 to 8).
+Msg messageOfCause(FileErrorCause cause);
 
-// The table text of `code` with its "%s" placeholders filled from a1 onward.
-std::string errorMessage(ErrorCode code, const std::string& a1 = {}, const std::string& a2 = {},
+// The text of message `id` with its "%s" placeholders filled from a1 onward; arguments beyond the text's
+// placeholders are ignored, and an argument's own "%s" stays as it is.
+std::string errorMessage(Msg id, const std::string& a1 = {}, const std::string& a2 = {},
                          const std::string& a3 = {}, const std::string& a4 = {}, const std::string& a5 = {});
 
-// Shows the table message of `code`.
-void reportError(UserInterface& ui, ErrorCode code, const std::string& a1 = {}, const std::string& a2 = {},
+// Shows message `id` as a report.
+void reportError(UserInterface& ui, Msg id, const std::string& a1 = {}, const std::string& a2 = {},
                  const std::string& a3 = {}, const std::string& a4 = {}, const std::string& a5 = {});
 
 // Shows the message of a file error cause naming the file.

@@ -18,9 +18,6 @@ namespace plovix {
 namespace {
 
 constexpr const char* kCatalogPattern = "*wizard.lst";
-constexpr int kWarningNoEndingSeparator = 34;
-constexpr int kWarningNoCommandLine = 35;
-constexpr int kWarningNoName = 36;
 
 bool isRegularFile(const std::string& path) {
   std::error_code error;
@@ -158,7 +155,7 @@ void CatalogLoader::readLines(const std::string& filePath, const std::string& te
 void CatalogLoader::readSectionLine(const std::string& record, int line) {
   const size_t start = std::min(record.find_first_not_of('['), record.size());
   if (record.find(']', start) == std::string::npos) {
-    reportError(ui_, kWarningNoEndingSeparator, formatInt(line), file_, "]", "]");
+    reportError(ui_, Msg::kNoEndingSeparator, formatInt(line), file_, "]", "]");
   }
   section_ = textInBrackets(record, start);
 }
@@ -172,7 +169,7 @@ void CatalogLoader::processRecord(const std::string& record, int line) {
 
   const size_t keyStart = record.find_first_not_of('=');
   if (keyStart == std::string::npos) {
-    reportError(ui_, kWarningNoName, formatInt(line), file_);
+    reportError(ui_, Msg::kLineWithoutWizardName, formatInt(line), file_);
     return;
   }
   const size_t keyEnd = std::min(record.find('=', keyStart), record.size());
@@ -203,7 +200,7 @@ void CatalogLoader::processRecord(const std::string& record, int line) {
 
   const std::string command = trimLeft(std::string_view(value).substr(0, value.find('=')));
   if (command.empty()) {
-    reportError(ui_, kWarningNoCommandLine, formatInt(line), file_);
+    reportError(ui_, Msg::kLineWithoutCommandLine, formatInt(line), file_);
     return;
   }
   entry.commandLine = normaliseCommandLine(command);

@@ -3,9 +3,9 @@
 
 #include <limits>
 
+#include "base/Messages.h"
 #include "base/TextHelpers.h"
 #include "cnx/CnxLineReader.h"
-#include "cnx/CnxMessages.h"
 
 namespace plovix {
 
@@ -28,39 +28,39 @@ bool CnxOperands::take() {
   return takeCnxToken(description_);
 }
 
-bool CnxOperands::fail(std::string_view message) {
-  return description_.logError(ui_, std::string(message));
+bool CnxOperands::fail(Msg message) {
+  return description_.logError(ui_, std::string(errorText(message)));
 }
 
 bool CnxOperands::identifier(std::string& out) {
-  if (!take()) return fail(cnxmsg::kNoIdentifier);
-  if (!isLetter(token().front())) return fail(cnxmsg::kIdentifierStart);
+  if (!take()) return fail(Msg::kCnxNoIdentifier);
+  if (!isLetter(token().front())) return fail(Msg::kCnxIdentifierStart);
   out = token();
   return true;
 }
 
 bool CnxOperands::optionalIdentifier(std::string& out) {
   if (!take()) return true;
-  if (!isLetter(token().front())) return fail(cnxmsg::kIdentifierStart);
+  if (!isLetter(token().front())) return fail(Msg::kCnxIdentifierStart);
   out = token();
   return true;
 }
 
 bool CnxOperands::portName(std::string& out) {
-  if (!take()) return fail(cnxmsg::kNoIdentifier);
+  if (!take()) return fail(Msg::kCnxNoIdentifier);
   out = token();
   return true;
 }
 
 bool CnxOperands::type(std::string& out) {
   take();
-  if (token() != "NUMERIC" && token() != "STRING") return fail(cnxmsg::kNoType);
+  if (token() != "NUMERIC" && token() != "STRING") return fail(Msg::kCnxNoType);
   out = token();
   return true;
 }
 
 bool CnxOperands::value(std::string& out) {
-  if (!take()) return fail(cnxmsg::kNoValue);
+  if (!take()) return fail(Msg::kCnxNoValue);
   out = token();
   return true;
 }
@@ -72,24 +72,24 @@ void CnxOperands::word(std::string& out) {
 
 bool CnxOperands::portType(std::string& out) {
   take();
-  if (token() != "INPUT" && token() != "OUTPUT" && token() != "BIDIR") return fail(cnxmsg::kNoPortType);
+  if (token() != "INPUT" && token() != "OUTPUT" && token() != "BIDIR") return fail(Msg::kCnxNoPortType);
   out = token();
   return true;
 }
 
 bool CnxOperands::endOfLine() {
-  if (take()) return fail(cnxmsg::kExtraTokens);
+  if (take()) return fail(Msg::kCnxExtraTokens);
   return true;
 }
 
 bool CnxOperands::number(int32_t& out) {
-  if (!take() || !isIntegerText(token())) return fail(cnxmsg::kNoNumber);
+  if (!take() || !isIntegerText(token())) return fail(Msg::kCnxNoNumber);
   out = cnxNumberValue(token());
   return true;
 }
 
 bool CnxOperands::keyword(std::string& out, std::initializer_list<std::string_view> allowed, bool optional,
-                          std::string_view message) {
+                          Msg message) {
   if (!take()) {
     if (!optional) return fail(message);
     out.clear();

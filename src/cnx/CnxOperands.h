@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/Messages.h"
 #include "base/UserInterface.h"
 #include "cnx/CnxDescription.h"
 
@@ -25,7 +26,7 @@ class CnxOperands {
   bool emptyQuoted() const { return description_.emptyQuoted; }
 
   // Logs `message` against the current line; always false.
-  bool fail(std::string_view message);
+  bool fail(Msg message);
 
   // Not empty, first character a letter.
   bool identifier(std::string& out);
@@ -47,8 +48,7 @@ class CnxOperands {
   // An optional "-" and decimal digits (a lone "-" is 0), stored as a 32-bit integer.
   bool number(int32_t& out);
   // One of `allowed`; when `optional`, also absent (then `out` is empty).
-  bool keyword(std::string& out, std::initializer_list<std::string_view> allowed, bool optional,
-               std::string_view message);
+  bool keyword(std::string& out, std::initializer_list<std::string_view> allowed, bool optional, Msg message);
 
  private:
   CnxDescription& description_;

@@ -2,7 +2,7 @@
 // dispatch of every statement line.
 #include "cnx/CnxStatements.h"
 
-#include "cnx/CnxMessages.h"
+#include "base/Messages.h"
 
 namespace plovix {
 
@@ -65,7 +65,7 @@ bool readCnxStatement(CnxOperands& in, CnxEndFiler& filer) {
   if (keyword == "USED_PORT:") return readUsedPortStatement(in);
   if (keyword == "CONNECT:") return readConnectStatement(in, filer);
   if (keyword == "SYMBOL:") return readSymbolStatement(in);
-  return in.fail(cnxmsg::kUnknownStatement);
+  return in.fail(Msg::kCnxUnknownStatement);
 }
 
 }  // namespace plovix

@@ -2,8 +2,8 @@
 // CNX file rebuilt from a variation file's header and retrieval info in edit mode.
 #include <array>
 
-#include "base/ErrorTable.h"
 #include "base/Format.h"
+#include "base/Messages.h"
 #include "base/OutputKinds.h"
 #include "base/PathText.h"
 #include "base/Report.h"
@@ -68,7 +68,7 @@ std::string headerValue(UserInterface& ui, std::string_view line, const std::str
   const HeaderTokens tokens = headerTokens(line, false);
   if (tokens.leader != leader || tokens.keyword != keyword || tokens.value.empty())
     return std::string(otherwise);
-  if (tokens.extraText) reportError(ui, 32);
+  if (tokens.extraText) reportError(ui, Msg::kExtraGenerationTokens);
   return tokens.value;
 }
 
@@ -76,7 +76,7 @@ std::string headerValue(UserInterface& ui, std::string_view line, const std::str
 std::string moduleLine(UserInterface& ui, std::string_view line, const std::string& leader) {
   const HeaderTokens tokens = headerTokens(line, true);
   if (tokens.leader != leader || tokens.keyword != "MODULE:" || tokens.value.empty()) return {};
-  if (tokens.extraText) reportError(ui, 32);
+  if (tokens.extraText) reportError(ui, Msg::kExtraGenerationTokens);
   const std::string operands = tokens.instance.empty() ? tokens.value : tokens.value + " " + tokens.instance;
   return formatText("%s %s\n", "MODULE:", operands.c_str());
 }
@@ -126,7 +126,7 @@ bool CnxDescription::extractRetrievalInfo(UserInterface& ui, const std::string& 
   if (!lines.next(line)) line = {};
   const std::string fileVersion = headerValue(ui, line, commentLeader, "VERSION:", kVersionUnknown);
   if (fileVersion == kVersionUnknown) {
-    reportError(ui, 31, std::string(kManagerName));
+    reportError(ui, Msg::kCnxUnknownVersion, std::string(kManagerName));
     return false;
   }
   version = fileVersion;
@@ -149,7 +149,7 @@ bool CnxDescription::extractRetrievalInfo(UserInterface& ui, const std::string& 
   }
   cnxPath = path;
   if (!moduleFound) {
-    reportError(ui, 30, std::string(kManagerName));
+    reportError(ui, Msg::kCnxWithoutModule, std::string(kManagerName));
     return false;
   }
   return true;

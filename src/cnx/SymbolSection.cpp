@@ -1,5 +1,5 @@
 // SYMBOL: lines: the element keyword, each element's operands, and the element records they produce.
-#include "cnx/CnxMessages.h"
+#include "base/Messages.h"
 #include "cnx/CnxStatements.h"
 
 namespace plovix {
@@ -7,24 +7,24 @@ namespace plovix {
 namespace {
 
 bool lineStyle(CnxOperands& in, std::string& out) {
-  return in.keyword(out, {"DOTTED", "DENSE", "BROKEN", "DASHED", "BUS", "SOLID"}, true, cnxmsg::kNoLineStyle);
+  return in.keyword(out, {"DOTTED", "DENSE", "BROKEN", "DASHED", "BUS", "SOLID"}, true, Msg::kCnxNoLineStyle);
 }
 
 bool lineWidth(CnxOperands& in, std::string& out) {
-  return in.keyword(out, {"THICK", "THIN"}, true, cnxmsg::kNoLineWidth);
+  return in.keyword(out, {"THICK", "THIN"}, true, Msg::kCnxNoLineWidth);
 }
 
 bool orientation(CnxOperands& in, std::string& out) {
-  return in.keyword(out, {"HORIZ", "VERT"}, true, cnxmsg::kNoOrientation);
+  return in.keyword(out, {"HORIZ", "VERT"}, true, Msg::kCnxNoOrientation);
 }
 
 bool stubType(CnxOperands& in, std::string& out) {
-  return in.keyword(out, {"IN", "OUT", "BIDIR"}, false, cnxmsg::kNoStubType);
+  return in.keyword(out, {"IN", "OUT", "BIDIR"}, false, Msg::kCnxNoStubType);
 }
 
 bool logical(CnxOperands& in, bool& out) {
   std::string text;
-  if (!in.keyword(text, {"TRUE", "FALSE"}, true, cnxmsg::kNoLogical)) return false;
+  if (!in.keyword(text, {"TRUE", "FALSE"}, true, Msg::kCnxNoLogical)) return false;
   out = text == "TRUE";
   return true;
 }
@@ -121,7 +121,7 @@ bool readElement(CnxOperands& in, SymbolElement& element) {
   if (keyword == "PINSTUB") return readPinStub(in, element);
   if (keyword == "PARAMETER") return readParameter(in, element);
   if (keyword == "BOX") return readBox(in, element);
-  return in.fail(cnxmsg::kUnknownSymbolElement);
+  return in.fail(Msg::kCnxUnknownSymbolElement);
 }
 
 }  // namespace

@@ -17,9 +17,6 @@ namespace plovix {
 
 namespace {
 
-constexpr int kNoCommandLine = 11;
-constexpr int kCannotStart = 27;
-
 // The program is found in `place` when D + T or D + T + ".exe" exists, T being the file's base name.
 bool findProgramIn(UserInterface& ui, const std::string& program, const std::string& place,
                    std::string& programPath) {
@@ -64,7 +61,7 @@ LaunchResult launchPlugin(ManagerApp& app, UserInterface& ui) {
   const ManagerRun& run = app.run;
   const std::string command = run.catalog->findCommandLine(run.modulonName);
   if (command.empty()) {
-    reportError(ui, kNoCommandLine, run.modulonName);
+    reportError(ui, Msg::kNoLaunchCommandLine, run.modulonName);
     return {};
   }
   const long threadId = currentThreadId();
@@ -78,7 +75,7 @@ LaunchResult launchPlugin(ManagerApp& app, UserInterface& ui) {
     ChildProcess child;
     int errorNumber = 0;
     if (!child.start(splitCommandLine(line), errorNumber)) {
-      reportError(ui, kCannotStart, run.modulonName, std::strerror(errorNumber));
+      reportError(ui, Msg::kCannotStartPlugin, run.modulonName, std::strerror(errorNumber));
       return {};
     }
     const PluginWaitResult waited = waitForPlugin(child, channel, quitSignals, app.corner, ui);

@@ -1,8 +1,8 @@
 // The manager run's start, its state loop and its end.
 #include "entry/RunFlow.h"
 
-#include "base/ErrorTable.h"
 #include "base/FileSystem.h"
+#include "base/Messages.h"
 #include "base/OutputKinds.h"
 #include "base/PathText.h"
 #include "base/QuestionTexts.h"
@@ -74,7 +74,7 @@ bool chooseFirstState(ManagerApp& app, UserInterface& ui, const char* fileName) 
       run.newFile = false;
       run.state = kStateLaunch;
     } else {
-      reportError(ui, 10, run.modulonName);
+      reportError(ui, Msg::kModulonNotListed, run.modulonName);
       run.newFile = false;
       run.state = kStateBrowserPage;
     }

@@ -22,7 +22,7 @@ void LookInBox::collectDrives(UserInterface& ui,
   root.icon = kLocalDrive - 2;
   drives_.push_back(root);
   if (!networkDrives) {
-    reportError(ui, 18);
+    reportError(ui, Msg::kCannotEnumerateNetworkDrives);
     return;
   }
   for (const NetworkDrive& drive : *networkDrives) {

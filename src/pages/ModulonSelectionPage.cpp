@@ -78,12 +78,12 @@ bool ModulonSelectionPage::validatePage(PageContext& context) {
   UserInterface& ui = context.ui;
   const std::string text = trimText(editText);
   if (text.empty()) {
-    reportError(ui, 15);
+    reportError(ui, Msg::kSpecifyFileToCreate);
     focusControl = kControlOutputName;
     return false;
   }
   if (tree.selected() == ModulonTree::kNoItem || tree.hasChildren(tree.selected())) {
-    reportError(ui, 25);
+    reportError(ui, Msg::kSelectAvailableModulon);
     focusControl = kControlModulonTree;
     return false;
   }
@@ -92,7 +92,7 @@ bool ModulonSelectionPage::validatePage(PageContext& context) {
   std::string splitDirectory;
   std::string fileName;
   if (!findInDirectory(ui, text, absoluteDirectory(directory), splitDirectory, fileName)) {
-    reportError(ui, 23);
+    reportError(ui, Msg::kIllegalDirectoryPath);
     focusControl = kControlOutputName;
     return false;
   }
@@ -102,7 +102,7 @@ bool ModulonSelectionPage::validatePage(PageContext& context) {
       return false;
     }
     if (!createOneDirectory(splitDirectory)) {
-      reportError(ui, 22, splitDirectory);
+      reportError(ui, Msg::kCannotCreateDirectory, splitDirectory);
       focusControl = kControlOutputName;
       return false;
     }
@@ -110,12 +110,12 @@ bool ModulonSelectionPage::validatePage(PageContext& context) {
   directory = splitDirectory;
 
   if (fileName.empty()) {
-    reportError(ui, 26);
+    reportError(ui, Msg::kNoFileName);
     focusControl = kControlOutputName;
     return false;
   }
   if (fileName.find_first_of(" \t") != std::string::npos) {
-    reportError(ui, 13);
+    reportError(ui, Msg::kBlanksInFileName);
     focusControl = kControlOutputName;
     return false;
   }
@@ -127,7 +127,7 @@ bool ModulonSelectionPage::validatePage(PageContext& context) {
     extension = typedExtension;
     baseName = fileName.substr(0, fileName.size() - typedExtension.size());
   } else {
-    reportError(ui, 12);
+    reportError(ui, Msg::kIllegalExtension);
     focusControl = kControlOutputName;
     return false;
   }
@@ -141,7 +141,7 @@ bool ModulonSelectionPage::validatePage(PageContext& context) {
   const std::string path = directory + baseName + extension;
   if (fileExists(path)) {
     if (!isWritable(path)) {
-      reportError(ui, 24, path);
+      reportError(ui, Msg::kWriteProtected, path);
       focusControl = kControlOutputName;
       return false;
     }

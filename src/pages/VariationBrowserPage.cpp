@@ -4,8 +4,8 @@
 #include <cerrno>
 #include <cstdio>
 
-#include "base/ErrorTable.h"
 #include "base/FileSystem.h"
+#include "base/Messages.h"
 #include "base/OutputKinds.h"
 #include "base/PathText.h"
 #include "base/QuestionTexts.h"
@@ -166,11 +166,11 @@ bool VariationBrowserPage::renameItem(PageContext& context, int index, const std
   const std::string oldPath = directory + oldName;
   const std::string newPath = directory + newName;
   if (fileExists(newPath)) {
-    reportError(context.ui, 20, newName);
+    reportError(context.ui, Msg::kAlreadyExists, newName);
     return false;
   }
   if (!fileExists(oldPath)) {
-    reportError(context.ui, 21, oldName);
+    reportError(context.ui, Msg::kDoesNotExist, oldName);
     return false;
   }
   if (std::rename(oldPath.c_str(), newPath.c_str()) != 0) {
@@ -206,7 +206,7 @@ bool VariationBrowserPage::applyTypedText(PageContext& context, bool nextForm) {
   std::string splitDirectory;
   std::string splitFile;
   if (!splitTyped(context, text, splitDirectory, splitFile)) {
-    reportError(context.ui, 16, text);
+    reportError(context.ui, Msg::kPathInvalid, text);
     return false;
   }
   bool listed = false;
@@ -244,7 +244,7 @@ bool VariationBrowserPage::validatePage(PageContext& context) {
   UserInterface& ui = context.ui;
   std::string text = trimText(fileNameText);
   if (text.empty()) {
-    reportError(ui, 14);
+    reportError(ui, Msg::kSpecifyFileToEdit);
     focusControl = kControlFileName;
     return false;
   }
@@ -256,25 +256,25 @@ bool VariationBrowserPage::validatePage(PageContext& context) {
   if (text.empty() || hasWildcard(text)) return false;
 
   if (text.find_first_of(" \t") != std::string::npos) {
-    reportError(ui, 13);
+    reportError(ui, Msg::kBlanksInFileName);
     focusControl = kControlFileName;
     return false;
   }
   const std::string typedExtension = splitPath(text, PathPart::kExtension);
   if (!isOutputExtension(typedExtension)) {
-    if (applied) reportError(ui, 12);
+    if (applied) reportError(ui, Msg::kIllegalExtension);
     focusControl = kControlFileName;
     return false;
   }
   if (WizardCatalog::isNotWizardMarker(modulonText)) {
-    reportError(ui, 9);
+    reportError(ui, Msg::kSpecifyModulonName);
     focusControl = kControlModulonBox;
     return false;
   }
   std::string splitDirectory;
   std::string splitFile;
   if (!findInDirectory(ui, text, directory, splitDirectory, splitFile)) {
-    reportError(ui, 16, text);
+    reportError(ui, Msg::kPathInvalid, text);
     focusControl = kControlFileName;
     return false;
   }
@@ -282,7 +282,7 @@ bool VariationBrowserPage::validatePage(PageContext& context) {
   if (!fileExists(path)) {
     if (!ui.ask(questions::fileDoesNotExistCreateIt(path))) return false;
     if (WizardCatalog::isNotWizardMarker(modulonText)) {
-      reportError(ui, 9);
+      reportError(ui, Msg::kSpecifyModulonName);
       focusControl = kControlModulonBox;
       return false;
     }
@@ -303,13 +303,13 @@ bool VariationBrowserPage::validatePage(PageContext& context) {
   }
 
   if (trimText(modulonText).empty() || WizardCatalog::isNotWizardMarker(modulonText)) {
-    reportError(ui, 9);
+    reportError(ui, Msg::kSpecifyModulonName);
     focusControl = kControlModulonBox;
     return false;
   }
   modulonName = context.catalog.resolveAlias(modulonText);
   if (context.catalog.findCommandLine(modulonName).empty()) {
-    reportError(ui, 10, modulonName);
+    reportError(ui, Msg::kModulonNotListed, modulonName);
     focusControl = kControlModulonBox;
     return false;
   }

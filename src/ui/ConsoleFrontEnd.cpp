@@ -1,7 +1,7 @@
 // Implementation of the console front end's boxes and the helpers its pages share.
 #include "ui/ConsoleFrontEnd.h"
 
-#include "base/ErrorTable.h"
+#include "base/Messages.h"
 #include "base/TextHelpers.h"
 
 namespace plovix {

@@ -1,6 +1,8 @@
 // Tests of the output kinds, the output-name rules and the signature reader.
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "RecordingInterface.h"
 #include "TempDir.h"
 #include "base/OutputKinds.h"
@@ -29,34 +31,40 @@ TEST(OutputKinds, ExtensionsAreComparedExactly) {
 struct NameCase {
   const char* extension;
   const char* name;
-  int error;  // 0 when the name passes
+  std::optional<Msg> error;  // none when the name passes
 };
+
+constexpr Msg kThdlRule = Msg::kIllegalThdlName;
+constexpr Msg kVerilogRule = Msg::kIllegalVerilogName;
+constexpr Msg kVhdlRule = Msg::kIllegalVhdlName;
 
 TEST(CheckOutputFileName, RulesPerLanguage) {
   const NameCase cases[] = {
-      {".tdf", "a~b", 0},  {".vhd", "a~b", 40}, {".v", "a~b", 39},  {".vhd", "_x", 40},
-      {".v", "_x", 0},     {".vhd", "9x", 40},  {".v", "9x", 39},   {".tdf", "9x", 0},
-      {".tdf", "a b", 38}, {".vhd", "a b", 40}, {".v", "a b", 39},  {".tdf", "", 0},
-      {".vhd", "", 40},    {".v", "", 39},      {".txt", "a b", 0}, {".vhd", "count8", 0},
+      {".tdf", "a~b", {}},
+      {".vhd", "a~b", kVhdlRule},
+      {".v", "a~b", kVerilogRule},
+      {".vhd", "_x", kVhdlRule},
+      {".v", "_x", {}},
+      {".vhd", "9x", kVhdlRule},
+      {".v", "9x", kVerilogRule},
+      {".tdf", "9x", {}},
+      {".tdf", "a b", kThdlRule},
+      {".vhd", "a b", kVhdlRule},
+      {".v", "a b", kVerilogRule},
+      {".tdf", "", {}},
+      {".vhd", "", kVhdlRule},
+      {".v", "", kVerilogRule},
+      {".txt", "a b", {}},
+      {".vhd", "count8", {}},
   };
-  const char* texts[41] = {};
-  texts[38] =
-      "Illegal character in output file name.\nFile names may only contain underscore,\ntilda, or "
-      "alphanumeric characters";
-  texts[39] =
-      "Illegal character in output file name.\nFile names may only contain underscore or\nalphanumeric "
-      "characters and begin only with a letter or an underscore";
-  texts[40] =
-      "Illegal character in output file name.\nFile names may only contain underscore or\nalphanumeric "
-      "characters and begin only with a letter";
   for (const NameCase& c : cases) {
     RecordingInterface ui;
-    EXPECT_EQ(checkOutputFileName(ui, c.extension, c.name), c.error == 0) << c.extension << " " << c.name;
-    if (c.error == 0) {
+    EXPECT_EQ(checkOutputFileName(ui, c.extension, c.name), !c.error) << c.extension << " " << c.name;
+    if (!c.error) {
       EXPECT_TRUE(ui.boxes.empty());
     } else {
       ASSERT_EQ(ui.boxes.size(), 1u);
-      EXPECT_EQ(ui.boxes[0], std::string("report: ") + texts[c.error]) << c.extension << " " << c.name;
+      EXPECT_EQ(ui.boxes[0], testing::reported(*c.error)) << c.extension << " " << c.name;
     }
   }
 }

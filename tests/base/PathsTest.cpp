@@ -84,7 +84,7 @@ TEST_F(ResolvePathTest, MissingFileInExistingDirectory) {
 TEST_F(ResolvePathTest, MissingDirectoryReportsError21) {
   EXPECT_FALSE(resolvePath(ui, "nowhere/x.v", dir, file));
   ASSERT_EQ(ui.boxes.size(), 1u);
-  EXPECT_EQ(ui.boxes[0], "report: File or directory nowhere/x.v does not exist");
+  EXPECT_EQ(ui.boxes[0], testing::reported(Msg::kDoesNotExist, "nowhere/x.v"));
   EXPECT_EQ(dir, "");
 }
 

@@ -12,6 +12,7 @@ namespace plovix {
 namespace {
 
 using testing::RecordingInterface;
+using testing::reported;
 using testing::TempDir;
 using Strings = std::vector<std::string>;
 
@@ -171,10 +172,10 @@ TEST_F(CatalogTest, MalformedBlockKeepsTheEntryWithoutItsInformation) {
   EXPECT_EQ(names(), (Strings{"A", "B"}));
   EXPECT_EQ(catalog.entries()[0].abstract, "");
   EXPECT_EQ(catalog.resolveAlias("OLD"), "OLD");
-  EXPECT_EQ(ui.boxes, (Strings{"report: Ignored invalid information block in line 2 in file " + file +
-                                   " -- Attribute value is missing for attribute : NAME",
-                               "report: Ignored invalid information block in line 7 in file " + file +
-                                   " -- Duplicate attribute name found"}));
+  EXPECT_EQ(ui.boxes,
+            (Strings{reported(Msg::kInvalidInformationBlock, "2", file,
+                              "Attribute value is missing for attribute : NAME"),
+                     reported(Msg::kInvalidInformationBlock, "7", file, "Duplicate attribute name found")}));
 }
 
 TEST_F(CatalogTest, WarnsAboutBadLinesWithTheirNumbersAndPath) {
@@ -192,14 +193,11 @@ TEST_F(CatalogTest, WarnsAboutBadLinesWithTheirNumbersAndPath) {
             "[]\n"
             "TOP=cmd\n");
   load("@");
-  EXPECT_EQ(
-      ui.boxes,
-      (Strings{"report: Line 1 in file " + file +
-                   " does not contain an ending\nseparator ]. A terminating ] was assumed",
-               "report: Ignored invalid line 2 in file " + file + " -- it does not contain a command line",
-               "report: Ignored invalid line 4 in file " + file + " -- it does not contain a wizard_name",
-               "report: Ignored invalid line 5 in file " + file + " -- it does not contain a command line",
-               "report: Ignored invalid line 7 in file " + file + " -- it does not contain a command line"}));
+  EXPECT_EQ(ui.boxes, (Strings{reported(Msg::kNoEndingSeparator, "1", file, "]", "]"),
+                               reported(Msg::kLineWithoutCommandLine, "2", file),
+                               reported(Msg::kLineWithoutWizardName, "4", file),
+                               reported(Msg::kLineWithoutCommandLine, "5", file),
+                               reported(Msg::kLineWithoutCommandLine, "7", file)}));
   // "[bracket] = x" is a section line; "=  =NAME=cmd" has the key "  " and so no name: dropped silently.
   ASSERT_EQ(names(), Strings{"TOP"});
   EXPECT_EQ(catalog.entries()[0].section, "");

@@ -3,14 +3,19 @@
 
 #include <algorithm>
 
+#include "RecordingInterface.h"
 #include "RunCommand.h"
 #include "TempDir.h"
+#include "base/QuestionTexts.h"
+#include "ui/BatchFrontEnd.h"
 
 namespace plovix {
 namespace {
 
+using testing::asked;
 using testing::CommandResult;
 using testing::plovixProgram;
+using testing::reported;
 using testing::runCommand;
 using testing::TempDir;
 
@@ -46,44 +51,26 @@ TEST_F(PlovixCommandTest, UnknownOptionsAndValuesGiveOneUsageLine) {
   }
 }
 
-TEST_F(PlovixCommandTest, NameWithoutExtension) {
-  const CommandResult r = plovix({"count8"});
-  EXPECT_EQ(r.err,
-            "question: File has no filename extension.\\nDo you want to edit the file anyway? => Cancel\n");
-  EXPECT_EQ(r.exitCode, 1);
-}
-
-TEST_F(PlovixCommandTest, CapitalisedExtension) {
-  const CommandResult r = plovix({"count8.TDF"});
-  EXPECT_EQ(
-      r.err,
-      "question: Illegal filename  extension (.TDF).\\n\\nDo you want to edit the file anyway? => Cancel\n");
-  EXPECT_EQ(r.exitCode, 1);
-}
-
-TEST_F(PlovixCommandTest, MissingFile) {
-  const CommandResult r = plovix({"count8.vhd"});
-  EXPECT_EQ(r.err, "question: File count8.vhd does not exist.\\nDo you want to create the file? => Cancel\n");
-  EXPECT_EQ(r.exitCode, 1);
-}
-
-TEST_F(PlovixCommandTest, ExistingFileThatNoWizardGenerated) {
+// Design file names that stop the run at its start (every question cancelled): the first box as batch shows
+// it, and exit status 1.
+TEST_F(PlovixCommandTest, DesignFileNamesThatStopTheRun) {
   temp.write("plain.v", "module plain;\nendmodule\n");
-  const CommandResult r = plovix({"plain.v"});
-  EXPECT_EQ(
-      r.err,
-      "question: Plovix Plug-In Manager does not recognize plain.v as a wizard-generated\\ncustom modulon "
-      "variation.\\n\\nDo you want to use a wizard to overwrite it? => Cancel\n");
-  EXPECT_EQ(r.exitCode, 1);
-}
-
-TEST_F(PlovixCommandTest, GeneratedFileOfAnUnlistedModulon) {
   temp.write("g.v", "// modulon wizard: %lpm_gone%\r\n");
-  const CommandResult r = plovix({"g.v"});
-  EXPECT_EQ(r.err.substr(0, r.err.find('\n') + 1),
-            "report: Modulon lpm_gone is not listed in any \\nwizard.lst file in the specified library "
-            "path(s).Wizard launch aborted\n");
-  EXPECT_EQ(r.exitCode, 1);
+  const struct {
+    const char* name;
+    std::string box;
+  } cases[] = {
+      {"count8", asked(questions::noExtension(), false)},
+      {"count8.TDF", asked(questions::illegalExtension(".TDF"), false)},
+      {"count8.vhd", asked(questions::fileDoesNotExistCreate("count8.vhd"), false)},
+      {"plain.v", asked(questions::notWizardGenerated("plain.v"), false)},
+      {"g.v", reported(Msg::kModulonNotListed, "lpm_gone")},
+  };
+  for (const auto& c : cases) {
+    const CommandResult r = plovix({c.name});
+    EXPECT_EQ(r.err.substr(0, r.err.find('\n') + 1), escapeBoxText(c.box) + "\n") << c.name;
+    EXPECT_EQ(r.exitCode, 1) << c.name;
+  }
 }
 
 TEST_F(PlovixCommandTest, WildcardGoesToTheBrowserWithoutAQuestion) {

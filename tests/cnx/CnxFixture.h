@@ -31,14 +31,11 @@ class CnxFixture : public ::testing::Test {
            "*******************************************\n\n";
   }
 
-  static std::string entry(int line, const std::string& rest, const std::string& message) {
-    return "Line " + std::to_string(line) + ": " + rest + "\n\t\t" + message + "\n\n";
+  static std::string entry(int line, const std::string& rest, Msg message) {
+    return "Line " + std::to_string(line) + ": " + rest + "\n\t\t" + std::string(errorText(message)) + "\n\n";
   }
 
-  std::string error33() const {
-    return "report: Error in CNX file format.\n\nError messages are listed in file\n" +
-           temp.path("var.cnxerr") + ".\n\nCan't create the custom modulon variation file(s)";
-  }
+  std::string error33() const { return reported(Msg::kCnxFormatError, temp.path("var.cnxerr")); }
 
   TempDir temp;
   RecordingInterface ui;

@@ -33,26 +33,18 @@ TEST_F(ErrorLogTest, FaultsInEveryStatementKindAreLoggedInFileOrderAndTheLinesDr
                            "SYMBOL: BOGUS 1 2\n"
                            "PARAMETER: width NUMERIC 8\n";
   EXPECT_FALSE(read(text));
-  EXPECT_EQ(log(),
-            banner() + entry(5, "", "Valid identifier not found.") +
-                entry(6, "lpm.components", "Identifiers cannot begin with a non-alphabetic character.") +
-                entry(7, "", "Valid identifier not found.") +
-                entry(8, "more", "Extra tokens found at the end of line.") +
-                entry(9, "NUMERIC 8", "Identifiers cannot begin with a non-alphabetic character.") +
-                entry(10, "8", "Valid variable/constant type not found.") +
-                entry(11, "", "Identifiers cannot begin with a non-alphabetic character.") +
-                entry(12, "tokens", "Extra tokens found at the end of line.") +
-                entry(13, "", "Valid variable/constant type not found.") +
-                entry(14, "", "Extra tokens found at the end of line.") +
-                entry(15, "", "Valid identifier not found.") +
-                entry(16, "", "Valid port type (input, output, etc.) not found.") +
-                entry(17, "", "Missing value string") +
-                entry(18, "text", "Extra tokens found at the end of line.") +
-                entry(19, "", "Missing value string") + entry(20, "", "Valid identifier not found.") +
-                entry(21, "", "Missing value string") +
-                entry(22, "", "Extra tokens found at the end of line.") +
-                entry(23, "bar", "Unknown line identifier encountered") +
-                entry(24, "1 2", "Unknown symbol element (line, circle, etc.) identifier encountered."));
+  EXPECT_EQ(log(), banner() + entry(5, "", Msg::kCnxNoIdentifier) +
+                       entry(6, "lpm.components", Msg::kCnxIdentifierStart) +
+                       entry(7, "", Msg::kCnxNoIdentifier) + entry(8, "more", Msg::kCnxExtraTokens) +
+                       entry(9, "NUMERIC 8", Msg::kCnxIdentifierStart) + entry(10, "8", Msg::kCnxNoType) +
+                       entry(11, "", Msg::kCnxIdentifierStart) + entry(12, "tokens", Msg::kCnxExtraTokens) +
+                       entry(13, "", Msg::kCnxNoType) + entry(14, "", Msg::kCnxExtraTokens) +
+                       entry(15, "", Msg::kCnxNoIdentifier) + entry(16, "", Msg::kCnxNoPortType) +
+                       entry(17, "", Msg::kCnxNoValue) + entry(18, "text", Msg::kCnxExtraTokens) +
+                       entry(19, "", Msg::kCnxNoValue) + entry(20, "", Msg::kCnxNoIdentifier) +
+                       entry(21, "", Msg::kCnxNoValue) + entry(22, "", Msg::kCnxExtraTokens) +
+                       entry(23, "bar", Msg::kCnxUnknownStatement) +
+                       entry(24, "1 2", Msg::kCnxUnknownSymbolElement));
   EXPECT_EQ(ui.boxes, std::vector<std::string>{error33()});
   // Only the accepted lines left records.
   EXPECT_EQ(description.modules.size(), 1u);
@@ -81,15 +73,11 @@ TEST_F(ErrorLogTest, FaultsInSymbolLinesAreLoggedWithTheirOwnMessages) {
                            "SYMBOL: LINE 0 0 10 10 SOLID THIN extra words\n"
                            "SYMBOL: CIRCLE 1 2 3 TRUE\n";
   EXPECT_FALSE(read(text));
-  EXPECT_EQ(log(),
-            banner() + entry(4, "", "Unknown symbol element (line, circle, etc.) identifier encountered.") +
-                entry(5, "", "Valid numeric value not found.") + entry(6, "", "Valid line style not found.") +
-                entry(7, "", "Valid line width not found.") + entry(8, "", "Valid numeric value not found.") +
-                entry(9, "", "Valid logical value not found.") +
-                entry(10, "font", "Valid orientation not found.") +
-                entry(11, "10 10 a", "Valid stub type not found.") +
-                entry(13, "", "Valid numeric value not found.") +
-                entry(14, "words", "Extra tokens found at the end of line."));
+  EXPECT_EQ(log(), banner() + entry(4, "", Msg::kCnxUnknownSymbolElement) + entry(5, "", Msg::kCnxNoNumber) +
+                       entry(6, "", Msg::kCnxNoLineStyle) + entry(7, "", Msg::kCnxNoLineWidth) +
+                       entry(8, "", Msg::kCnxNoNumber) + entry(9, "", Msg::kCnxNoLogical) +
+                       entry(10, "font", Msg::kCnxNoOrientation) + entry(11, "10 10 a", Msg::kCnxNoStubType) +
+                       entry(13, "", Msg::kCnxNoNumber) + entry(14, "words", Msg::kCnxExtraTokens));
   // The PARAMETER element without its text is dropped silently; the dropped BOX still asks for a drawn
   // symbol.
   EXPECT_FALSE(description.defaultSymbolBox);
@@ -102,20 +90,18 @@ TEST_F(ErrorLogTest, FirstTwoLinesMustBeTheGenerationAndVersionLines) {
     std::string text, log;
   };
   const Case cases[] = {
-      {"", entry(0, "", "Unexpected end of file encountered")},
-      {"GENERATION: STANDARD extra words\n", entry(1, "extra words", "Unexpected end of file encountered")},
-      {"GENERATION: standard\nVERSION: WM1.0\nMODULE: m\n",
-       entry(1, "", "No valid wizard signature (generation mode ) found")},
-      {"\nGENERATION: STANDARD\n", entry(1, "", "No valid wizard signature (generation mode ) found")},
-      {"// GENERATION: STANDARD\n",
-       entry(1, "GENERATION: STANDARD", "No valid wizard signature (generation mode ) found")},
-      {"GENERATION: SYMBOL_ONLY\nVERSION: WM3.0 x\nMODULE: m\n", entry(2, "x", "Unknown version number")},
-      {"GENERATION: STANDARD\n\nVERSION: WM1.0\n", entry(2, "", "Unknown version number")},
+      {"", entry(0, "", Msg::kCnxUnexpectedEnd)},
+      {"GENERATION: STANDARD extra words\n", entry(1, "extra words", Msg::kCnxUnexpectedEnd)},
+      {"GENERATION: standard\nVERSION: WM1.0\nMODULE: m\n", entry(1, "", Msg::kCnxNoGenerationMode)},
+      {"\nGENERATION: STANDARD\n", entry(1, "", Msg::kCnxNoGenerationMode)},
+      {"// GENERATION: STANDARD\n", entry(1, "GENERATION: STANDARD", Msg::kCnxNoGenerationMode)},
+      {"GENERATION: SYMBOL_ONLY\nVERSION: WM3.0 x\nMODULE: m\n",
+       entry(2, "x", Msg::kCnxUnknownVersionNumber)},
+      {"GENERATION: STANDARD\n\nVERSION: WM1.0\n", entry(2, "", Msg::kCnxUnknownVersionNumber)},
       // A WM2.0 body has no reader: the read fails with the banner alone.
       {"GENERATION: STANDARD\nVERSION: WM2.0\nMODULE: m\n", ""},
-      {kCnxHead + "// only\n\n   \n// comments\n",
-       entry(6, "comments", "No module name found in the CNX file")},
-      {kCnxHead, entry(2, "", "No module name found in the CNX file")},
+      {kCnxHead + "// only\n\n   \n// comments\n", entry(6, "comments", Msg::kCnxNoModuleName)},
+      {kCnxHead, entry(2, "", Msg::kCnxNoModuleName)},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.text);
@@ -142,15 +128,14 @@ TEST_F(ErrorLogTest, ValidFileLeavesTheBannerAloneInTextMode) {
 TEST_F(ErrorLogTest, MissingCnxFileIsAFileErrorAfterTheLogWasCreated) {
   description.setCnxPath(temp.path("none.cnx"));
   EXPECT_FALSE(description.readDescription(ui));
-  EXPECT_EQ(ui.boxes,
-            std::vector<std::string>{"report: File " + temp.path("none.cnx") + " could not be opened"});
+  EXPECT_EQ(ui.boxes, std::vector<std::string>{reported(Msg::kFileNotOpened, temp.path("none.cnx"))});
   EXPECT_EQ(fromTextMode(temp.read("none.cnxerr")), banner());
 
   // Without any path neither file can be opened.
   RecordingInterface pathless;
   CnxDescription none;
   EXPECT_FALSE(none.readDescription(pathless));
-  EXPECT_EQ(pathless.boxes, std::vector<std::string>(2, "report: File  could not be opened"));
+  EXPECT_EQ(pathless.boxes, std::vector<std::string>(2, reported(Msg::kFileNotOpened, "")));
 }
 
 TEST_F(ErrorLogTest, LogThatCannotBeCreatedIsReportedAtEveryFaultAndNoEntryIsWritten) {
@@ -160,10 +145,9 @@ TEST_F(ErrorLogTest, LogThatCannotBeCreatedIsReportedAtEveryFaultAndNoEntryIsWri
   description.setCnxPath(temp.path("dir/var.cnx"));
   EXPECT_FALSE(description.readDescription(ui));
   // The log stays to be created, so the fault of line 3 tries again and its entry is lost; reading goes on.
-  const std::vector<std::string> expected = {
-      "report: Unknown file error encountered", "report: Unknown file error encountered",
-      "report: Error in CNX file format.\n\nError messages are listed in file\n" +
-          temp.path("dir/var.cnxerr") + ".\n\nCan't create the custom modulon variation file(s)"};
+  const std::vector<std::string> expected = {reported(Msg::kUnknownFileError),
+                                             reported(Msg::kUnknownFileError),
+                                             reported(Msg::kCnxFormatError, temp.path("dir/var.cnxerr"))};
   EXPECT_EQ(ui.boxes, expected);
   EXPECT_TRUE(description.errorLogFresh);
   EXPECT_EQ(description.modules.size(), 1u);

@@ -68,13 +68,10 @@ TEST_F(MalformedInputTest, EveryOperationEndsNormallyOnKeptInputs) {
 
 TEST_F(MalformedInputTest, StrayQuotesAndMarksAreLoggedAsTheirStatementsFail) {
   EXPECT_FALSE(read(TempDir::readFile(PLOVIX_TEST_DATA_DIR "/fuzz/quotes-and-lone-marks.cnx")));
-  EXPECT_EQ(log(), banner() + entry(3, "", "Unknown line identifier encountered") +
-                       entry(4, "\"\"", "Unknown line identifier encountered") +
-                       entry(5, "", "Unknown line identifier encountered") +
-                       entry(6, "", "Unknown line identifier encountered") +
-                       entry(7, "", "Unknown line identifier encountered") +
-                       entry(8, "MODULE: x", "Unknown line identifier encountered") +
-                       entry(15, "", "Valid numeric value not found."));
+  EXPECT_EQ(log(), banner() + entry(3, "", Msg::kCnxUnknownStatement) +
+                       entry(4, "\"\"", Msg::kCnxUnknownStatement) + entry(5, "", Msg::kCnxUnknownStatement) +
+                       entry(6, "", Msg::kCnxUnknownStatement) + entry(7, "", Msg::kCnxUnknownStatement) +
+                       entry(8, "MODULE: x", Msg::kCnxUnknownStatement) + entry(15, "", Msg::kCnxNoNumber));
   // "@" alone names the main module's nameless port; "!" alone is a reference with empty parts.
   ASSERT_NE(description.connectionMap.find("m"), nullptr);
   EXPECT_NE(description.connectionMap.find("m")->find(""), nullptr);

@@ -8,10 +8,9 @@ namespace plovix::testing {
 namespace {
 
 const std::string kRule = std::string(60, '=');
-const std::string kWarning32 = "report: Extra tokens at the end of the generation mode line will be ignored";
-const std::string kError30 =
-    "report: Can't start Plovix Plug-In Manager -- CNX file has no module information";
-const std::string kError31 = "report: Can't start Plovix Plug-In Manager -- CNX file has an unknown version";
+const std::string kWarning32 = reported(Msg::kExtraGenerationTokens);
+const std::string kError30 = reported(Msg::kCnxWithoutModule, kManagerName);
+const std::string kError31 = reported(Msg::kCnxUnknownVersion, kManagerName);
 
 const std::string kDescriptionText = kCnxHead +
                                      "MODULE: lpm_counter\n"
@@ -70,8 +69,7 @@ TEST_F(RetrievalInfoTest, BlockOfAMissingCnxFileIsAFileError) {
   std::string out = "kept";
   EXPECT_FALSE(description.writeRetrievalInfo(ui, ".tdf", out));
   EXPECT_EQ(out, "kept");
-  EXPECT_EQ(ui.boxes,
-            std::vector<std::string>{"report: File " + temp.path("gone.cnx") + " could not be opened"});
+  EXPECT_EQ(ui.boxes, std::vector<std::string>{reported(Msg::kFileNotOpened, temp.path("gone.cnx"))});
 }
 
 // A variation file as the design-file writer lays it out: signature, header lines, design text, retrieval
@@ -107,11 +105,7 @@ TEST_F(RetrievalInfoTest, RoundTripRebuildsTheCnxFileThePlugInStartsFrom) {
   // Read as it stands, it lacks the generation line the plug-in writes back.
   edit.setCnxPath(edit.cnxPath);
   EXPECT_FALSE(edit.readDescription(ui));
-  EXPECT_EQ(ui.boxes,
-            std::vector<std::string>{"report: Error in CNX file format.\n\nError messages are listed in "
-                                     "file\n" +
-                                     temp.path("count8.cnxerr") +
-                                     ".\n\nCan't create the custom modulon variation file(s)"});
+  EXPECT_EQ(ui.boxes, std::vector<std::string>{reported(Msg::kCnxFormatError, temp.path("count8.cnxerr"))});
 
   // With it, the description reads back as it was written, but for the symbol the header does not carry.
   temp.write("count8.cnx", "GENERATION: STANDARD\n" + temp.read("count8.cnx"));
@@ -188,7 +182,7 @@ TEST_F(RetrievalInfoTest, RebuiltFileThatCannotBeWrittenIsAFileError) {
   temp.write("v.vhd", variationFile("-- GENERATION: STANDARD\n-- VERSION: WM1.0\n-- MODULE: a\n", ""));
   temp.write("v.cnx/occupied", "");
   EXPECT_FALSE(description.extractRetrievalInfo(ui, temp.path("v.vhd")));
-  EXPECT_EQ(ui.boxes, std::vector<std::string>{"report: Unknown file error encountered"});
+  EXPECT_EQ(ui.boxes, std::vector<std::string>{reported(Msg::kUnknownFileError)});
 }
 
 TEST_F(RetrievalInfoTest, StripGenerationLineRemovesOnlyAValidGenerationLine) {
@@ -207,8 +201,7 @@ TEST_F(RetrievalInfoTest, StripGenerationLineRemovesOnlyAValidGenerationLine) {
   EXPECT_TRUE(ui.boxes.empty());
 
   EXPECT_FALSE(description.stripGenerationLine(ui, temp.path("none.cnx")));
-  EXPECT_EQ(ui.boxes,
-            std::vector<std::string>{"report: File " + temp.path("none.cnx") + " could not be opened"});
+  EXPECT_EQ(ui.boxes, std::vector<std::string>{reported(Msg::kFileNotOpened, temp.path("none.cnx"))});
 }
 
 }  // namespace

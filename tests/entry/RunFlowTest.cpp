@@ -4,12 +4,15 @@
 #include "RecordingInterface.h"
 #include "ScriptedRunSteps.h"
 #include "TempDir.h"
+#include "base/QuestionTexts.h"
 #include "entry/RunFlow.h"
 
 namespace plovix {
 namespace {
 
+using testing::asked;
 using testing::RecordingInterface;
+using testing::reported;
 using testing::ScriptedRunSteps;
 using testing::TempDir;
 using Log = std::vector<std::string>;
@@ -243,57 +246,41 @@ TEST_F(RunFlowTest, RenamedVariationIsRecordedAsTheOutput) {
 // The first state chosen from the file name given to the run.
 class FirstStateTest : public RunFlowTest {};
 
-TEST_F(FirstStateTest, NoExtensionAsksAndOpensTheBrowser) {
-  run("count8");
-  EXPECT_EQ(ui.boxes,
-            (Log{"question: File has no filename extension.\nDo you want to edit the file anyway? => OK"}));
-  EXPECT_EQ(steps.log[1], "browser:|count8||");
+// Each name leads to its box and, with OK, to the page the run then shows.
+TEST_F(FirstStateTest, NameDecidesTheBoxAndThePage) {
+  temp.write("plain.v", "module plain; endmodule\n");
+  temp.write("g.v", "// modulon wizard: %lpm_gone%\n");
+  const std::string missing = temp.path("count8.vhd");
+  const std::string plain = temp.path("plain.v");
+  const struct {
+    std::string name;
+    std::string box;  // empty when none is shown
+    std::string page;
+  } cases[] = {
+      {"count8", asked(questions::noExtension()), "browser:|count8||"},
+      {"*.vhd", "", "browser:|*|.vhd|"},
+      {missing, asked(questions::fileDoesNotExistCreate(missing)), kPage2a},
+      {plain, asked(questions::notWizardGenerated(plain)), "browser:" + temp.dir() + "|plain|.v|"},
+      {temp.path("g.v"), reported(Msg::kModulonNotListed, "lpm_gone"),
+       "browser:" + temp.dir() + "|g|.v|lpm_gone"},
+  };
+  for (const auto& c : cases) {
+    ui.boxes.clear();
+    steps.log.clear();
+    run(c.name.c_str());
+    EXPECT_EQ(ui.boxes, c.box.empty() ? Log{} : Log{c.box}) << c.name;
+    ASSERT_EQ(steps.log.size(), 2u) << c.name;
+    EXPECT_EQ(steps.log[1], c.page) << c.name;
+  }
 }
 
 TEST_F(FirstStateTest, CapitalisedExtensionIsIllegal) {
   ui.answers = {false};
   run("count8.TDF");
-  EXPECT_EQ(ui.boxes,
-            (Log{"question: Illegal filename  extension (.TDF).\n\nDo you want to edit the file anyway? => "
-                 "Cancel"}));
+  EXPECT_EQ(ui.boxes, Log{asked(questions::illegalExtension(".TDF"), false)});
   EXPECT_EQ(steps.log, (Log{"catalog"})) << "cancelled: no page";
   EXPECT_EQ(app.lastOutputPath, "count8.TDF");
   EXPECT_EQ(app.projectDirectory, "") << "the run's empty directory becomes the project directory";
-}
-
-TEST_F(FirstStateTest, WildcardsOpenTheBrowserWithoutAQuestion) {
-  run("*.vhd");
-  EXPECT_TRUE(ui.boxes.empty());
-  EXPECT_EQ(steps.log[1], "browser:|*|.vhd|");
-}
-
-TEST_F(FirstStateTest, MissingFileAsksToCreateIt) {
-  const std::string path = temp.path("count8.vhd");
-  run(path.c_str());
-  EXPECT_EQ(ui.boxes,
-            (Log{"question: File " + path + " does not exist.\nDo you want to create the file? => OK"}));
-  EXPECT_EQ(steps.log[1], kPage2a);
-}
-
-TEST_F(FirstStateTest, ExistingFileNotWizardGenerated) {
-  temp.write("plain.v", "module plain; endmodule\n");
-  const std::string path = temp.path("plain.v");
-  run(path.c_str());
-  EXPECT_EQ(ui.boxes,
-            (Log{"question: Plovix Plug-In Manager does not recognize " + path +
-                 " as a wizard-generated\ncustom modulon variation.\n\nDo you want to use a wizard to "
-                 "overwrite it? => OK"}));
-  EXPECT_EQ(steps.log[1], "browser:" + temp.dir() + "|plain|.v|");
-}
-
-TEST_F(FirstStateTest, GeneratedFileOfAnUnlistedModulonReportsError10) {
-  temp.write("g.v", "// modulon wizard: %lpm_gone%\n");
-  const std::string path = temp.path("g.v");
-  run(path.c_str());
-  EXPECT_EQ(ui.boxes,
-            (Log{"report: Modulon lpm_gone is not listed in any \nwizard.lst file in the specified library "
-                 "path(s).Wizard launch aborted"}));
-  EXPECT_EQ(steps.log[1], "browser:" + temp.dir() + "|g|.v|lpm_gone");
 }
 
 TEST_F(FirstStateTest, BlankNameStartsAtTheActionPage) {

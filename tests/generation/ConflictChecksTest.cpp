@@ -8,6 +8,7 @@
 
 #include "RecordingInterface.h"
 #include "TempDir.h"
+#include "base/QuestionTexts.h"
 #include "entry/ConflictChecks.h"
 
 namespace plovix {
@@ -15,6 +16,7 @@ namespace {
 
 using plovix::testing::RecordingInterface;
 using plovix::testing::TempDir;
+using testing::asked;
 
 ManagerRun runWithModules(const std::string& fileTitle, std::initializer_list<const char*> moduleNames) {
   ManagerRun run;
@@ -46,17 +48,10 @@ TEST(SubComponentClash, RenamesTheLastCharacter) {
       EXPECT_TRUE(ui.boxes.empty());
     } else {
       ASSERT_EQ(ui.boxes.size(), 1u);
-      EXPECT_EQ(ui.boxes[0], "report: Variation file name (" + std::string(c.fileTitle) +
-                                 ") is identical with the name of one of its sub-components.\n\n"
-                                 "Plovix Plug-In Manager will rename the variation to \"" +
-                                 c.expected + "\" to prevent compilation errors");
+      EXPECT_EQ(ui.boxes[0], "report: " + questions::renamedVariation(c.fileTitle, c.expected));
     }
   }
 }
-
-const std::string kSameNameTail =
-    "\nThis may create a conflict of design files and/or lead to undesirable side\neffects.\n\n"
-    "Is it OK to continue file generation?";
 
 TEST(SameNameFiles, ListsOtherDesignFilesSortedByName) {
   TempDir dir;
@@ -78,20 +73,13 @@ TEST(SameNameFiles, ListsOtherDesignFilesSortedByName) {
   ui.answers = {false};
   EXPECT_FALSE(confirmSameNameFiles(ui, run, "/nonexistent/"));
   ASSERT_EQ(ui.boxes.size(), 1u);
-  EXPECT_EQ(ui.boxes[0],
-            "question: The following design file, which has identical name but a different extension \n"
-            "from the specified variation file, already exists in the working directory:\n\ncount8.gdf\n" +
-                kSameNameTail + " => Cancel");
+  EXPECT_EQ(ui.boxes[0], asked(errorMessage(Msg::kSameNameFileQuestion, "count8.gdf\n"), false));
 
   dir.write("count8.tdf", "");
   ui.boxes.clear();
   EXPECT_TRUE(confirmSameNameFiles(ui, run, "/nonexistent/"));
   ASSERT_EQ(ui.boxes.size(), 1u);
-  EXPECT_EQ(ui.boxes[0],
-            "question: The following design files, which have identical names but different extensions \n"
-            "from the specified variation file, already exist in the working directory:\n\n"
-            "count8.gdf\ncount8.tdf\n" +
-                kSameNameTail + " => OK");
+  EXPECT_EQ(ui.boxes[0], asked(errorMessage(Msg::kSameNameFilesQuestion, "count8.gdf\ncount8.tdf\n")));
 }
 
 TEST(SameNameFiles, EmptyDirectoryMeansTheProjectDirectory) {
@@ -122,24 +110,19 @@ TEST(ExistingOutputs, ListsCompanionsAndSymbolWithBackslashes) {
   for (char& c : base) {
     if (c == '/') c = '\\';
   }
-  const std::string note =
-      "\nNote: You may need to update the instantiation\nof this function, including its symbol or VHDL \n"
-      "Component Declaration, to reflect the changes. \nChoose 'Update Symbol' (Symbol menu) \n"
-      "to update a symbol in the Graphic Editor.";
-  EXPECT_EQ(listExistingOutputs(run, "", true, true), "The following file(s) already exist:\n\n  " + base +
-                                                          ".inc\n  " + base + ".sym\n" + note +
-                                                          "\n\nOK to overwrite the file(s)?");
-  EXPECT_EQ(listExistingOutputs(run, "", false, true), "The following file(s) already exist:\n\n  " + base +
-                                                           ".sym\n" + note +
-                                                           "\n\nOK to overwrite the file(s)?");
-  EXPECT_EQ(listExistingOutputs(run, "", true, false),
-            "The following file(s) already exist:\n\n  " + base + ".inc\n\n\nOK to overwrite the file(s)?");
+  const std::string note = errorText(Msg::kSymbolUpdateNote).data();
+  const auto question = [](const std::string& list) {
+    return errorMessage(Msg::kOverwriteOutputsQuestion, list);
+  };
+  EXPECT_EQ(listExistingOutputs(run, "", true, true),
+            question("  " + base + ".inc\n  " + base + ".sym\n" + note));
+  EXPECT_EQ(listExistingOutputs(run, "", false, true), question("  " + base + ".sym\n" + note));
+  EXPECT_EQ(listExistingOutputs(run, "", true, false), question("  " + base + ".inc\n"));
 
   dir.write("count8.cmp", "");
   run.directory.clear();
-  EXPECT_EQ(listExistingOutputs(run, dir.dir(), true, false), "The following file(s) already exist:\n\n  " +
-                                                                  base + ".inc\n  " + base + ".cmp\n" +
-                                                                  "\n\nOK to overwrite the file(s)?");
+  EXPECT_EQ(listExistingOutputs(run, dir.dir(), true, false),
+            question("  " + base + ".inc\n  " + base + ".cmp\n"));
 }
 
 }  // namespace

@@ -7,12 +7,14 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <cerrno>
 #include <chrono>
 #include <cstddef>
 #include <cstring>
 #include <thread>
 
 #include "LaunchFixture.h"
+#include "base/QuestionTexts.h"
 #include "base/TextFile.h"
 #include "platform/PositionChannel.h"
 
@@ -20,6 +22,7 @@ namespace plovix {
 namespace {
 
 using testing::fileExistsForTest;
+using testing::reported;
 using testing::writeScript;
 
 // Records its arguments one per line in args.txt beside itself, then runs the rest of its body.
@@ -88,10 +91,9 @@ TEST_F(LaunchRunTest, StartFailuresAreReported) {
   EXPECT_FALSE(launch().started);
   app.run.modulonName = "NONE";
   EXPECT_FALSE(launch().started);
-  EXPECT_EQ(ui.boxes, (std::vector<std::string>{
-                          "report: Can't start the modulon wizard plug-in N.\n\nPermission denied",
-                          "report: Can't start the modulon wizard plug-in G.\n\nNo such file or directory",
-                          "report: No launch command line found for modulon wizard plug-in NONE"}));
+  EXPECT_EQ(ui.boxes, (std::vector<std::string>{reported(Msg::kCannotStartPlugin, "N", std::strerror(EACCES)),
+                                                reported(Msg::kCannotStartPlugin, "G", std::strerror(ENOENT)),
+                                                reported(Msg::kNoLaunchCommandLine, "NONE")}));
 }
 
 TEST_F(LaunchRunTest, QuittingKillsAHungPlugin) {
@@ -202,11 +204,8 @@ TEST_F(VendorScriptTest, AFailedScriptStopsTheRestWithItsMessage) {
   EXPECT_FALSE(fileExistsForTest(out.path("two")));
   const std::string first = "printf '%s' '" + toBackslashes(outputPath()) + "' > '" + out.path("one") + "'";
   ASSERT_EQ(ui.boxes.size(), 3u);
-  EXPECT_EQ(ui.boxes[1], "report: An error occured when running the associated script\n\n" + first +
-                             "\n\nPlease make sure mytool is installed on\nyour system and it is included in "
-                             "your default path.\n\nTo rerun the script, please open the created variation "
-                             "\nfile in edit mode and press the Finish button");
-  EXPECT_EQ(ui.boxes[2], "report: Cannot execute the command line\n\ntrue\n\nNo child processes");
+  EXPECT_EQ(ui.boxes[1], "report: " + questions::vendorScriptFailed(first, "mytool"));
+  EXPECT_EQ(ui.boxes[2], "report: " + questions::cannotExecuteCommand("true", std::strerror(ECHILD)));
 }
 
 }  // namespace

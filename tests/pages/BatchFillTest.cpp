@@ -74,7 +74,7 @@ TEST_F(BatchFillTest, PageLeftOpenAfterNextEndsWithCancel) {
   ModulonSelectionPage second;
   BatchFrontEnd unknownModulon = frontEnd("MISSING");
   EXPECT_EQ(unknownModulon.showModulonPage(second, unknown), kPageCancel);
-  EXPECT_EQ(ui.boxes.back(), "report: Select an available modulon");
+  EXPECT_EQ(ui.boxes.back(), testing::reported(Msg::kSelectAvailableModulon));
 }
 
 TEST_F(BatchFillTest, BrowserPageUsesTheSignatureUnlessTheBatchNamesAModulon) {

@@ -7,6 +7,7 @@
 
 #include "RecordingInterface.h"
 #include "TempDir.h"
+#include "base/QuestionTexts.h"
 #include "catalog/WizardCatalog.h"
 #include "pages/PageHost.h"
 #include "pages/VariationBrowserPage.h"
@@ -14,7 +15,9 @@
 namespace plovix {
 namespace {
 
+using testing::asked;
 using testing::RecordingInterface;
+using testing::reported;
 using testing::TempDir;
 using Strings = std::vector<std::string>;
 
@@ -178,13 +181,10 @@ TEST_F(BrowserPageTest, NameChecksInTheirOrder) {
   page.modulonText = "Not a wizard-generated file";
   EXPECT_FALSE(next());
   EXPECT_EQ(page.focusControl, kControlModulonBox);
-  EXPECT_EQ(
-      ui.boxes,
-      (Strings{"report: Specify the name of the custom modulon \nvariation file you want to edit",
-               "report: File name can not include space or tab characters",
-               "report: Illegal or missing filename extension.\nUse .tdf, .vhd, or .v only",
-               "report: File or directory missing/x.txt does not exist",
-               "report: Path missing/x.txt does not exist or is invalid", "report: Specify a modulon name"}));
+  EXPECT_EQ(ui.boxes,
+            (Strings{reported(Msg::kSpecifyFileToEdit), reported(Msg::kBlanksInFileName),
+                     reported(Msg::kIllegalExtension), reported(Msg::kDoesNotExist, "missing/x.txt"),
+                     reported(Msg::kPathInvalid, "missing/x.txt"), reported(Msg::kSpecifyModulonName)}));
 }
 
 TEST_F(BrowserPageTest, VerdictsForMissingForeignAndOtherModulonFiles) {
@@ -196,8 +196,7 @@ TEST_F(BrowserPageTest, VerdictsForMissingForeignAndOtherModulonFiles) {
   EXPECT_EQ(page.baseName, "new");
   EXPECT_EQ(page.extension, ".tdf");
   EXPECT_EQ(page.directory, files.dir());
-  EXPECT_EQ(ui.boxes[0], "question: File " + files.path("new.tdf") +
-                             " does not exist.\nDo you want to create it? => Cancel");
+  EXPECT_EQ(ui.boxes[0], asked(questions::fileDoesNotExistCreateIt(files.path("new.tdf")), false));
 
   ui.boxes.clear();
   openWith("plain.vhd");
@@ -205,10 +204,7 @@ TEST_F(BrowserPageTest, VerdictsForMissingForeignAndOtherModulonFiles) {
   page.modulonText = "ADDER";
   EXPECT_TRUE(next());
   EXPECT_TRUE(page.newVariation);
-  EXPECT_EQ(ui.boxes,
-            Strings{"question: Plovix Plug-In Manager does not recognize " + files.path("plain.vhd") +
-                    " as a wizard-generated\ncustom modulon variation.\n\nDo you want to use a wizard to "
-                    "overwrite it? => OK"});
+  EXPECT_EQ(ui.boxes, Strings{asked(questions::notWizardGenerated(files.path("plain.vhd")))});
 
   ui.boxes.clear();
   openWith("count.tdf");
@@ -217,9 +213,7 @@ TEST_F(BrowserPageTest, VerdictsForMissingForeignAndOtherModulonFiles) {
   EXPECT_TRUE(page.newVariation);
   EXPECT_EQ(page.modulonName, "ADDER");
   EXPECT_EQ(ui.boxes,
-            Strings{"question: File " + files.path("count.tdf") +
-                    " is currently based on the\nCOUNTER modulon, but you have selected the ADDER.\n\nOK "
-                    "to continue? => OK"});
+            Strings{asked(questions::basedOnOtherModulon(files.path("count.tdf"), "COUNTER", "ADDER"))});
 }
 
 TEST_F(BrowserPageTest, SameModulonEditsTheFileAndAliasesResolve) {
@@ -242,9 +236,7 @@ TEST_F(BrowserPageTest, SameModulonEditsTheFileAndAliasesResolve) {
   files.write("count.tdf", signed_("GONE"));
   page.modulonText = "GONE";
   EXPECT_FALSE(next());
-  EXPECT_EQ(ui.boxes,
-            Strings{"report: Modulon GONE is not listed in any \nwizard.lst file in the specified library "
-                    "path(s).Wizard launch aborted"});
+  EXPECT_EQ(ui.boxes, Strings{reported(Msg::kModulonNotListed, "GONE")});
   EXPECT_EQ(page.focusControl, kControlModulonBox);
 }
 
@@ -280,8 +272,8 @@ TEST_F(BrowserPageTest, RenamingChecksBothNames) {
   EXPECT_TRUE(TempDir::readFile(files.path("counter2.tdf")).size() > 0);
   std::remove(files.path("counter2.tdf").c_str());
   EXPECT_FALSE(page.renameItem(context, 0, "third.tdf"));
-  EXPECT_EQ(ui.boxes, (Strings{"report: File or directory sub already exists",
-                               "report: File or directory counter2.tdf does not exist"}));
+  EXPECT_EQ(ui.boxes,
+            (Strings{reported(Msg::kAlreadyExists, "sub"), reported(Msg::kDoesNotExist, "counter2.tdf")}));
 }
 
 TEST_F(BrowserPageTest, BackGivesTheBoxesToTheRun) {
@@ -329,7 +321,7 @@ TEST_F(BrowserPageTest, NetworkMountsBecomeDrivesAndHoldTheirFolders) {
   EXPECT_EQ(box.selectedPath(), "/");
 
   box.collectDrives(ui, std::nullopt);
-  EXPECT_EQ(ui.boxes, Strings{"report: Can't enumerate network drives -- enumeration aborted"});
+  EXPECT_EQ(ui.boxes, Strings{reported(Msg::kCannotEnumerateNetworkDrives)});
   box.fillFor("/usr/lib/");
   EXPECT_EQ(box.items().size(), 3u);
   EXPECT_EQ(box.rootOf("/mnt/team/x/"), "/");

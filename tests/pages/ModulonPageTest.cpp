@@ -8,6 +8,7 @@
 
 #include "RecordingInterface.h"
 #include "TempDir.h"
+#include "base/QuestionTexts.h"
 #include "catalog/WizardCatalog.h"
 #include "pages/ModulonSelectionPage.h"
 #include "pages/PageHost.h"
@@ -15,7 +16,9 @@
 namespace plovix {
 namespace {
 
+using testing::asked;
 using testing::RecordingInterface;
+using testing::reported;
 using testing::TempDir;
 using Strings = std::vector<std::string>;
 
@@ -127,9 +130,8 @@ TEST_F(ModulonPageTest, EmptyNameAndMissingOrFolderSelectionAreReportedFirst) {
   prepare("", "x.tdf");
   page.tree.select(page.tree.findByText("a"));
   EXPECT_FALSE(next());
-  EXPECT_EQ(ui.boxes,
-            (Strings{"report: Specify the name of the custom modulon \nvariation file you want to create",
-                     "report: Select an available modulon", "report: Select an available modulon"}));
+  EXPECT_EQ(ui.boxes, (Strings{reported(Msg::kSpecifyFileToCreate), reported(Msg::kSelectAvailableModulon),
+                               reported(Msg::kSelectAvailableModulon)}));
 }
 
 TEST_F(ModulonPageTest, FileNameChecksInTheirOrder) {
@@ -143,12 +145,9 @@ TEST_F(ModulonPageTest, FileNameChecksInTheirOrder) {
   EXPECT_FALSE(next());
   prepare("COUNTER", "1counter.vhd");
   EXPECT_FALSE(next());
-  EXPECT_EQ(ui.boxes, (Strings{"report: No file name has been specified",
-                               "report: File name can not include space or tab characters",
-                               "report: Illegal or missing filename extension.\nUse .tdf, .vhd, or .v only",
-                               "report: Illegal or missing filename extension.\nUse .tdf, .vhd, or .v only",
-                               "report: Illegal character in output file name.\nFile names may only contain "
-                               "underscore or\nalphanumeric characters and begin only with a letter"}));
+  EXPECT_EQ(ui.boxes, (Strings{reported(Msg::kNoFileName), reported(Msg::kBlanksInFileName),
+                               reported(Msg::kIllegalExtension), reported(Msg::kIllegalExtension),
+                               reported(Msg::kIllegalVhdlName)}));
   EXPECT_EQ(page.focusControl, kControlOutputName);
   EXPECT_EQ(page.modulonName, "COUNTER");
 }
@@ -182,7 +181,7 @@ TEST_F(ModulonPageTest, TwoDimensionalFallbackIsAskedForVhdlAndVerilogOnly) {
   prepare("FLAT", "flat.tdf");
   EXPECT_TRUE(next());
   ASSERT_EQ(ui.boxes.size(), 2u);
-  EXPECT_EQ(ui.boxes[0].rfind("question: Modulon requires two-dimensional ports", 0), 0u);
+  EXPECT_EQ(ui.boxes[0], asked(questions::thdlFallback(), false));
 }
 
 TEST_F(ModulonPageTest, ExistingFileIsCheckedForWritingBeforeTheOverwriteQuestion) {
@@ -190,15 +189,14 @@ TEST_F(ModulonPageTest, ExistingFileIsCheckedForWritingBeforeTheOverwriteQuestio
   prepare("COUNTER", "old.tdf");
   ui.answers = {false};
   EXPECT_FALSE(next());
-  EXPECT_EQ(ui.boxes.back(),
-            "question: File " + out.path("old.tdf") + "\nalready exists. OK to overwrite it? => Cancel");
+  EXPECT_EQ(ui.boxes.back(), asked(questions::overwriteFile(out.path("old.tdf")), false));
   EXPECT_TRUE(next());
 
   if (geteuid() != 0) {
     chmod(out.path("old.tdf").c_str(), 0444);
     ui.boxes.clear();
     EXPECT_FALSE(next());
-    EXPECT_EQ(ui.boxes, Strings{"report: File " + out.path("old.tdf") + " is write-protected"});
+    EXPECT_EQ(ui.boxes, Strings{reported(Msg::kWriteProtected, out.path("old.tdf"))});
     EXPECT_EQ(page.focusControl, kControlOutputName);
   }
 }
@@ -206,8 +204,8 @@ TEST_F(ModulonPageTest, ExistingFileIsCheckedForWritingBeforeTheOverwriteQuestio
 TEST_F(ModulonPageTest, MissingDirectoryIsReportedAsAnIllegalPath) {
   prepare("COUNTER", "missing/deeper/x.tdf");
   EXPECT_FALSE(next());
-  EXPECT_EQ(ui.boxes, (Strings{"report: File or directory missing/deeper/x.tdf does not exist",
-                               "report: Illegal directory path"}));
+  EXPECT_EQ(ui.boxes, (Strings{reported(Msg::kDoesNotExist, "missing/deeper/x.tdf"),
+                               reported(Msg::kIllegalDirectoryPath)}));
   EXPECT_EQ(page.focusControl, kControlOutputName);
 }
 

@@ -147,7 +147,7 @@ TEST(SymbolPicture, RenderSymbolCommandPrintsThePicture) {
                               "' 2> '" + temp.path("err") + "' > '" + temp.path("out") + "'";
   EXPECT_NE(std::system(command.c_str()), 0);
   EXPECT_EQ(temp.read("out"), "");
-  EXPECT_EQ(temp.read("err"), "report: File " + temp.path("none.sym") + " could not be opened\n");
+  EXPECT_EQ(temp.read("err"), testing::reported(Msg::kFileNotOpened, temp.path("none.sym")) + "\n");
 }
 
 }  // namespace

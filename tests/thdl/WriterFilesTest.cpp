@@ -87,7 +87,7 @@ TEST(WriterFiles, FailedWriteIsReportedAndLeavesOtherFiles) {
 
   EXPECT_FALSE(writer.writeDesignFile());
   ASSERT_EQ(ui.boxes.size(), 1u);
-  EXPECT_EQ(ui.boxes[0], "report: Unknown file error encountered");
+  EXPECT_EQ(ui.boxes[0], testing::reported(Msg::kUnknownFileError));
   EXPECT_TRUE(std::filesystem::is_directory(dir.path("count8.tdf")));
 
   EXPECT_TRUE(writer.writeCompanionFile());
@@ -101,7 +101,7 @@ TEST(WriterFiles, MissingDirectoryReportsTheFileName) {
   ThdlFileWriter writer(ui, dir.path("nowhere/count8"), "lpm_counter", description);
   EXPECT_FALSE(writer.writeInstanceFile());
   ASSERT_EQ(ui.boxes.size(), 1u);
-  EXPECT_EQ(ui.boxes[0], "report: File " + dir.path("nowhere/count8_inst.tdf") + " could not be opened");
+  EXPECT_EQ(ui.boxes[0], testing::reported(Msg::kFileNotOpened, dir.path("nowhere/count8_inst.tdf")));
 }
 
 }  // namespace

@@ -12,11 +12,18 @@
 #include <string>
 
 #include "TempDir.h"
+#include "base/QuestionTexts.h"
+#include "base/Report.h"
 
 namespace plovix {
 namespace {
 
 using testing::TempDir;
+
+// The last line of a message: what a terminal session can wait for whatever the lines before it hold.
+std::string lastLine(const std::string& text) {
+  return text.substr(text.rfind('\n') + 1);
+}
 
 constexpr const char* kCounterDescription =
     "GENERATION: STANDARD\n"
@@ -129,7 +136,7 @@ TEST_F(ConsoleSessionTest, CreatesAVariationAndEditsItThroughTheBrowser) {
     ASSERT_TRUE(session.expect("   2    lpm_counter"));
     ASSERT_TRUE(session.expect("> "));
     session.send("n");  // nothing selected yet
-    ASSERT_TRUE(session.expect("Select an available modulon"));
+    ASSERT_TRUE(session.expect(errorMessage(Msg::kSelectAvailableModulon)));
     session.send("");
     ASSERT_TRUE(session.expect("-> the modulon list"));
     ASSERT_TRUE(session.expect("> "));
@@ -162,7 +169,7 @@ TEST_F(ConsoleSessionTest, CreatesAVariationAndEditsItThroughTheBrowser) {
     ASSERT_TRUE(session.expect("File name: count8.v"));
     ASSERT_TRUE(session.expect("Modulon name: lpm_counter"));
     session.send("n");
-    ASSERT_TRUE(session.expect("OK to overwrite the file(s)?")) << session.output;
+    ASSERT_TRUE(session.expect(lastLine(questions::overwriteExistingOutputs("")))) << session.output;
     session.send("o");
     EXPECT_EQ(session.exitCode(), 0) << session.output;
   }

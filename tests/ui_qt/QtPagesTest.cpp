@@ -14,6 +14,7 @@
 
 #include "ModalDriver.h"
 #include "TempDir.h"
+#include "base/Report.h"
 #include "catalog/WizardCatalog.h"
 #include "entry/ManagerApp.h"
 #include "entry/RunFlow.h"
@@ -166,7 +167,7 @@ class QtPagesTest : public QObject {
     });
     driver.on("messageBox", [](QWidget* box) {
       QCOMPARE(qobject_cast<QMessageBox*>(box)->text(),
-               QString("Specify the name of the custom modulon \nvariation file you want to create"));
+               QString::fromStdString(errorMessage(Msg::kSpecifyFileToCreate)));
       answerBox(box, true);
     });
     driver.on("modulonPage", [](QWidget* dialog) {

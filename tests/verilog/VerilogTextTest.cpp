@@ -130,7 +130,7 @@ TEST(VerilogFiles, AnUnwritableBlackBoxIsReportedWithItsName) {
   VerilogFileWriter writer(ui, work.path("missing/count8"), testing::kCorpusSignature, description);
   EXPECT_FALSE(writer.writeBlackBoxFile());
   ASSERT_EQ(ui.boxes.size(), 1u);
-  EXPECT_EQ(ui.boxes[0], "report: File " + work.path("missing/count8_bb.v") + " could not be opened");
+  EXPECT_EQ(ui.boxes[0], testing::reported(Msg::kFileNotOpened, work.path("missing/count8_bb.v")));
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 
 #include <QMessageBox>
 
-#include "base/ErrorTable.h"
+#include "base/Messages.h"
 #include "ui/QtFrontEndHook.h"
 #include "ui/qt/QtActionDialog.h"
 #include "ui/qt/QtBrowserDialog.h"

@@ -4,18 +4,25 @@
 #include <signal.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <chrono>
+#include <cstring>
 #include <string>
 #include <thread>
 
 #include "PlovixRunner.h"
+#include "RecordingInterface.h"
 #include "TempDir.h"
+#include "base/QuestionTexts.h"
+#include "ui/BatchFrontEnd.h"
 
 namespace plovix {
 namespace {
 
+using testing::asked;
 using testing::PlovixProcess;
 using testing::PlovixResult;
+using testing::reported;
 using testing::runPlovix;
 using testing::TempDir;
 
@@ -163,9 +170,8 @@ TEST_F(PluginRunTest, StartFailureShowsItsMessage) {
   project.write("var.cnx", TempDir::readFile(PLOVIX_SOURCE_DIR "/tests/corpus/counter.cnx"));
   const PlovixResult result = run({variation()});
   EXPECT_TRUE(result.exited(1));
-  EXPECT_NE(
-      result.err.find("report: Can't start the modulon wizard plug-in REC.\\n\\nNo such file or directory"),
-      std::string::npos)
+  EXPECT_NE(result.err.find(escapeBoxText(reported(Msg::kCannotStartPlugin, "REC", std::strerror(ENOENT)))),
+            std::string::npos)
       << result.err;
 }
 
@@ -174,9 +180,8 @@ TEST_F(PluginRunTest, VendorScriptRunsAfterGeneration) {
                                    variation() + "' '%w/copied.tdf'\"/>\n</NATIVE_TOOL>\n</INFO>\n");
   const PlovixResult result = run({"--modulon", "REC", "--language", "thdl", variation()});
   ASSERT_TRUE(result.exited(0)) << result.err;
-  EXPECT_NE(
-      result.err.find("question: There is a vendor-provided script associated with this plovix plug-in."),
-      std::string::npos);
+  EXPECT_NE(result.err.find(escapeBoxText(asked(questions::runVendorScript("sh")))), std::string::npos)
+      << result.err;
   EXPECT_EQ(lib.read("copied.tdf"), project.read("var.tdf"));
 }
 
@@ -195,8 +200,8 @@ TEST(ListModulons, PrintsTheCatalogAsATable) {
             "tool\tscripts\talias\tabstract\n"
             "ONE\ttop|sub\t" +
                 lib.dir() + "\trun/it \\nx\tfalse\tvhdl\tt\ta+\tuno\ttab\\there\n");
-  EXPECT_EQ(result.err, "report: Ignored invalid line 7 in file " + lib.path("a_wizard.lst") +
-                            " -- it does not contain a command line\n");
+  EXPECT_EQ(result.err,
+            escapeBoxText(reported(Msg::kLineWithoutCommandLine, "7", lib.path("a_wizard.lst"))) + "\n");
 }
 
 }  // namespace

@@ -1,0 +1,157 @@
+// The text of every message, in the order of its number (base/Messages.h).
+#include "base/Messages.h"
+
+#include <array>
+
+namespace plovix {
+
+namespace {
+
+struct Row {
+  Msg id;
+  std::string_view text;
+};
+
+constexpr Row kTable[] = {
+    {Msg::kUnknownError, "Unknown error encountered"},
+    {Msg::kUnknownFileError, "Unknown file error encountered"},
+    {Msg::kFileNotOpened, "File %s could not be opened"},
+    {Msg::kInvalidFilePath, "File path %s is invalid"},
+    {Msg::kSharingViolation, "Sharing violation for file %s"},
+    {Msg::kAccessDenied, "Access denied to file %s"},
+    {Msg::kDiskFull, "Disk is full for writing %s"},
+    {Msg::kUnexpectedEndOfFile, "Unexpected end of file reached for %s"},
+    {Msg::kHardwareError, "Hardware error encountered for %s"},
+    {Msg::kSpecifyModulonName, "Specify a modulon name"},
+    {Msg::kModulonNotListed,
+     "Modulon %s is not listed in any \nwizard.lst file in the specified library path(s).Wizard launch "
+     "aborted"},
+    {Msg::kNoLaunchCommandLine, "No launch command line found for modulon wizard plug-in %s"},
+    {Msg::kIllegalExtension, "Illegal or missing filename extension.\nUse .tdf, .vhd, or .v only"},
+    {Msg::kBlanksInFileName, "File name can not include space or tab characters"},
+    {Msg::kSpecifyFileToEdit, "Specify the name of the custom modulon \nvariation file you want to edit"},
+    {Msg::kSpecifyFileToCreate, "Specify the name of the custom modulon \nvariation file you want to create"},
+    {Msg::kPathInvalid, "Path %s does not exist or is invalid"},
+    {Msg::kUnknownDriveType, "Unknown drive type encountered for %s"},
+    {Msg::kCannotEnumerateNetworkDrives, "Can't enumerate network drives -- enumeration aborted"},
+    {Msg::kInputPathInvalid, "Input path %s is invalid"},
+    {Msg::kAlreadyExists, "File or directory %s already exists"},
+    {Msg::kDoesNotExist, "File or directory %s does not exist"},
+    {Msg::kCannotCreateDirectory, "Can't create directory %s"},
+    {Msg::kIllegalDirectoryPath, "Illegal directory path"},
+    {Msg::kWriteProtected, "File %s is write-protected"},
+    {Msg::kSelectAvailableModulon, "Select an available modulon"},
+    {Msg::kNoFileName, "No file name has been specified"},
+    {Msg::kCannotStartPlugin, "Can't start the modulon wizard plug-in %s.\n\n%s"},
+    {Msg::kNoCommandLineInLibraries,
+     "Can't find command line for modulon wizard plug-in %s\nin any wizard.lst file in any library path"},
+    {Msg::kUsageSyntax, "%s\tsyntax: \n\n plovix [<design file name>]"},
+    {Msg::kCnxWithoutModule, "Can't start %s -- CNX file has no module information"},
+    {Msg::kCnxUnknownVersion, "Can't start %s -- CNX file has an unknown version"},
+    {Msg::kExtraGenerationTokens, "Extra tokens at the end of the generation mode line will be ignored"},
+    {Msg::kCnxFormatError,
+     "Error in CNX file format.\n\nError messages are listed in file\n%s.\n\nCan't create the custom modulon "
+     "variation file(s)"},
+    {Msg::kNoEndingSeparator,
+     "Line %s in file %s does not contain an ending\nseparator %s. A terminating %s was assumed"},
+    {Msg::kLineWithoutCommandLine,
+     "Ignored invalid line %s in file %s -- it does not contain a command line"},
+    {Msg::kLineWithoutWizardName, "Ignored invalid line %s in file %s -- it does not contain a wizard_name"},
+    {Msg::kSymbolFileNotCreated, "Creation of symbol file %s failed"},
+    {Msg::kIllegalThdlName,
+     "Illegal character in output file name.\nFile names may only contain underscore,\ntilda, or "
+     "alphanumeric characters"},
+    {Msg::kIllegalVerilogName,
+     "Illegal character in output file name.\nFile names may only contain underscore or\nalphanumeric "
+     "characters and begin only with a letter or an underscore"},
+    {Msg::kIllegalVhdlName,
+     "Illegal character in output file name.\nFile names may only contain underscore or\nalphanumeric "
+     "characters and begin only with a letter"},
+    {Msg::kNoExtensionQuestion, "File has no filename extension.\nDo you want to edit the file anyway?"},
+    {Msg::kIllegalExtensionQuestion,
+     "Illegal filename  extension (%s).\n\nDo you want to edit the file anyway?"},
+    {Msg::kCreateFileQuestion, "File %s does not exist.\nDo you want to create the file?"},
+    {Msg::kNotWizardGeneratedQuestion,
+     "%s does not recognize %s as a wizard-generated\ncustom modulon variation.\n\nDo you want to use a "
+     "wizard to overwrite it?"},
+    {Msg::kRunVendorScriptQuestion,
+     "There is a vendor-provided script associated with this plovix plug-in.\nTo run this script will "
+     "require %s installed on your system\nand included in your default system path.\n\nDo you want to run "
+     "the associated script?"},
+    {Msg::kVendorScriptFailed,
+     "An error occured when running the associated script\n\n%s\n\nPlease make sure %s is installed on\nyour "
+     "system and it is included in your default path.\n\nTo rerun the script, please open the created "
+     "variation \nfile in edit mode and press the Finish button"},
+    {Msg::kCannotExecuteCommand, "Cannot execute the command line\n\n%s\n\n%s"},
+    {Msg::kRenamedVariation,
+     "Variation file name (%s) is identical with the name of one of its sub-components.\n\n%s will rename "
+     "the variation to \"%s\" to prevent compilation errors"},
+    {Msg::kThdlFallbackQuestion,
+     "Modulon requires two-dimensional ports which are not currently supported in VHDL or Verilog HDL.\n\nDo "
+     "you want to create an THDL version of the modulon instead?"},
+    {Msg::kSameNameFileQuestion,
+     "The following design file, which has identical name but a different extension \nfrom the specified "
+     "variation file, already exists in the working directory:\n\n%s\nThis may create a conflict of design "
+     "files and/or lead to undesirable side\neffects.\n\nIs it OK to continue file generation?"},
+    {Msg::kSameNameFilesQuestion,
+     "The following design files, which have identical names but different extensions \nfrom the specified "
+     "variation file, already exist in the working directory:\n\n%s\nThis may create a conflict of design "
+     "files and/or lead to undesirable side\neffects.\n\nIs it OK to continue file generation?"},
+    {Msg::kOverwriteOutputsQuestion,
+     "The following file(s) already exist:\n\n%s\n\nOK to overwrite the file(s)?"},
+    {Msg::kSymbolUpdateNote,
+     "\nNote: You may need to update the instantiation\nof this function, including its symbol or VHDL "
+     "\nComponent Declaration, to reflect the changes. \nChoose 'Update Symbol' (Symbol menu) \nto update a "
+     "symbol in the Graphic Editor."},
+    {Msg::kCreateDirectoryQuestion, "Directory %s does not exist.\n\nDo you want to create it?"},
+    {Msg::kOverwriteFileQuestion, "File %s\nalready exists. OK to overwrite it?"},
+    {Msg::kDriveNotReady, "Can't read from drive %s -- It is not ready"},
+    {Msg::kCreateItQuestion, "File %s does not exist.\nDo you want to create it?"},
+    {Msg::kBasedOnOtherModulonQuestion,
+     "File %s is currently based on the\n%s modulon, but you have selected the %s.\n\nOK to continue?"},
+    {Msg::kXmlParsingError, "Error in parsing the XML document encountered"},
+    {Msg::kCnxUnexpectedEnd, "Unexpected end of file encountered"},
+    {Msg::kCnxNoGenerationMode, "No valid wizard signature (generation mode ) found"},
+    {Msg::kCnxUnknownVersionNumber, "Unknown version number"},
+    {Msg::kCnxNoModuleName, "No module name found in the CNX file"},
+    {Msg::kCnxUnknownStatement, "Unknown line identifier encountered"},
+    {Msg::kCnxNoIdentifier, "Valid identifier not found."},
+    {Msg::kCnxIdentifierStart, "Identifiers cannot begin with a non-alphabetic character."},
+    {Msg::kCnxNoType, "Valid variable/constant type not found."},
+    {Msg::kCnxNoValue, "Missing value string"},
+    {Msg::kCnxNoPortType, "Valid port type (input, output, etc.) not found."},
+    {Msg::kCnxExtraTokens, "Extra tokens found at the end of line."},
+    {Msg::kCnxUnknownSymbolElement, "Unknown symbol element (line, circle, etc.) identifier encountered."},
+    {Msg::kCnxNoNumber, "Valid numeric value not found."},
+    {Msg::kCnxNoLineStyle, "Valid line style not found."},
+    {Msg::kCnxNoLineWidth, "Valid line width not found."},
+    {Msg::kCnxNoStubType, "Valid stub type not found."},
+    {Msg::kCnxNoOrientation, "Valid orientation not found."},
+    {Msg::kCnxNoLogical, "Valid logical value not found."},
+    {Msg::kInvalidInformationBlock, "Ignored invalid information block in line %s in file %s -- %s"},
+    {Msg::kInvalidSymbolFile, "File %s is not a valid symbol file (line %s)."},
+    {Msg::kQtFrontEndUnavailable,
+     "the Qt front end needs a display and a build with Qt 6; using the %s front end instead"},
+    {Msg::kMakerNotice, "plovix is free software; the files it generates are yours to use and share."},
+    {Msg::kOverwriteDeclined, "overwrite declined"},
+    {Msg::kNotWrittenByHost, "the host library did not write the file"},
+};
+
+// Every message has its row, at the index of its number.
+constexpr bool rowsInOrder() {
+  if (std::size(kTable) != static_cast<size_t>(kMessageCount)) return false;
+  for (size_t i = 0; i < std::size(kTable); ++i)
+    if (static_cast<size_t>(kTable[i].id) != i) return false;
+  return true;
+}
+static_assert(rowsInOrder(), "the rows of kTable must follow the order of Msg");
+
+}  // namespace
+
+std::string_view errorText(Msg id) {
+  const int index = static_cast<int>(id);
+  if (index < 0 || index >= kMessageCount) return {};
+  return kTable[index].text;
+}
+
+}  // namespace plovix
