@@ -5,6 +5,10 @@
 #include <cstdlib>
 
 #include <CLI/CLI.hpp>
+#include <string>
+#include <vector>
+
+#include "base/OutputKinds.h"
 
 namespace plovix {
 
@@ -15,6 +19,13 @@ constexpr const char* kUsage =
 
 void setEnvironment(const char* name, const std::string& value) {
   setenv(name, value.c_str(), 1);
+}
+
+// The words --language takes: the output kinds' CLI words.
+std::vector<std::string> languageWords() {
+  std::vector<std::string> words;
+  for (const OutputKind& kind : kOutputKinds) words.emplace_back(kind.cliWord);
+  return words;
 }
 
 }  // namespace
@@ -37,8 +48,7 @@ ParseOutcome parseCommandLine(int argc, char** argv, CommandLine& out) {
       ->check(CLI::IsMember({"batch", "console", "qt"}));
   app.add_flag("--batch", batch, "Same as --ui batch: no pages are shown, every box is one line on stderr");
   app.add_option("--modulon", out.frontEnd.modulon, "Batch: the modulon to use");
-  app.add_option("--language", language, "Batch: the output language")
-      ->check(CLI::IsMember({"thdl", "vhdl", "verilog"}));
+  app.add_option("--language", language, "Batch: the output language")->check(CLI::IsMember(languageWords()));
   app.add_option("--answer", answer, "Batch: the answer to every question (default ok)")
       ->check(CLI::IsMember({"ok", "cancel"}));
   app.add_option("--project", project, "Project root directory");

@@ -10,14 +10,33 @@
 namespace plovix {
 
 bool isOutputExtension(std::string_view extension) {
-  return outputKindIndexOfExtension(extension) >= 0;
+  return outputKindOfExtension(extension) != nullptr;
+}
+
+const OutputKind* outputKindOfExtension(std::string_view extension) {
+  for (const OutputKind& kind : kOutputKinds) {
+    if (kind.designExtension == extension) return &kind;
+  }
+  return nullptr;
+}
+
+const OutputKind* outputKindOfCliWord(std::string_view word) {
+  for (const OutputKind& kind : kOutputKinds) {
+    if (kind.cliWord == word) return &kind;
+  }
+  return nullptr;
+}
+
+const OutputKind* outputKindOfButton(int buttonIndex) {
+  for (const OutputKind& kind : kOutputKinds) {
+    if (kind.buttonIndex == buttonIndex) return &kind;
+  }
+  return nullptr;
 }
 
 int outputKindIndexOfExtension(std::string_view extension) {
-  for (size_t i = 0; i < kOutputKinds.size(); ++i) {
-    if (kOutputKinds[i].designExtension == extension) return static_cast<int>(i);
-  }
-  return -1;
+  const OutputKind* kind = outputKindOfExtension(extension);
+  return kind == nullptr ? -1 : static_cast<int>(kind - kOutputKinds.data());
 }
 
 std::string extensionOfKind(std::string_view key) {
@@ -37,7 +56,7 @@ std::string commentLeaderOfExtension(std::string_view extension) {
 }
 
 bool isDesignExtension(std::string_view extension) {
-  return extension == ".tdf" || extension == ".vhd" || extension == ".v" || extension == ".gdf";
+  return isOutputExtension(extension) || extension == kGraphicDesignExtension;
 }
 
 namespace {
@@ -49,41 +68,26 @@ bool isIn(std::string_view set, char c) {
   return set.find(c) != std::string_view::npos;
 }
 
-struct NameRule {
-  std::string_view extension;
-  bool tilde;            // "~" allowed
-  bool underscoreFirst;  // "_" may begin the name
-  bool letterFirst;      // the first character must be a letter (or "_" when underscoreFirst)
-  Msg message;           // the rule's report
-};
-
-constexpr NameRule kNameRules[] = {
-    {".tdf", true, true, false, Msg::kIllegalThdlName},
-    {".vhd", false, false, true, Msg::kIllegalVhdlName},
-    {".v", false, true, true, Msg::kIllegalVerilogName},
-};
-
 }  // namespace
 
 bool checkOutputFileName(UserInterface& ui, std::string_view extension, std::string_view baseName) {
-  for (const NameRule& rule : kNameRules) {
-    if (rule.extension != extension) continue;
-    for (char c : baseName) {
-      const bool allowed = isIn(kDigits, c) || isIn(kLetters, c) || c == '_' || (rule.tilde && c == '~');
-      if (!allowed) {
-        reportError(ui, rule.message);
-        return false;
-      }
+  const OutputKind* kind = outputKindOfExtension(extension);
+  if (kind == nullptr) return true;
+  const OutputNameRule& rule = kind->nameRule;
+  for (char c : baseName) {
+    const bool allowed = isIn(kDigits, c) || isIn(kLetters, c) || c == '_' || (rule.tilde && c == '~');
+    if (!allowed) {
+      reportError(ui, rule.message);
+      return false;
     }
-    if (rule.letterFirst) {
-      const bool ok = !baseName.empty() &&
-                      (isIn(kLetters, baseName.front()) || (rule.underscoreFirst && baseName.front() == '_'));
-      if (!ok) {
-        reportError(ui, rule.message);
-        return false;
-      }
+  }
+  if (rule.letterFirst) {
+    const bool ok = !baseName.empty() &&
+                    (isIn(kLetters, baseName.front()) || (rule.underscoreFirst && baseName.front() == '_'));
+    if (!ok) {
+      reportError(ui, rule.message);
+      return false;
     }
-    return true;
   }
   return true;
 }
@@ -107,9 +111,10 @@ std::string readModulonNameOfFile(const std::string& path) {
 }
 
 bool offerThdlFallback(UserInterface& ui, std::string& extension) {
-  if (extension != ".vhd" && extension != ".v") return true;
+  const OutputKind* kind = outputKindOfExtension(extension);
+  if (kind == nullptr || kind->language == OutputLanguage::kThdl) return true;
   const bool ok = ui.ask(questions::thdlFallback());
-  extension = ".tdf";
+  extension = outputKind(OutputLanguage::kThdl).designExtension;
   return ok;
 }
 

@@ -2,7 +2,10 @@
 // existing companion and symbol files.
 #include "entry/ConflictChecks.h"
 
+#include <algorithm>
 #include <set>
+#include <string_view>
+#include <vector>
 
 #include "base/FileSystem.h"
 #include "base/OutputKinds.h"
@@ -73,8 +76,14 @@ std::string listExistingOutputs(const ManagerRun& run, const std::string& projec
   const std::string base = checkDirectory(run, projectDirectory) + run.fileTitle;
   std::string list;
   if (companions) {
-    for (const char* extension : {".inc", ".cmp"}) {
-      if (fileExists(base + extension)) list += "  " + base + extension + "\n";
+    // Each companion extension once, in table order: the include file, then the component declaration.
+    std::vector<std::string_view> listed;
+    for (const OutputKind& kind : kOutputKinds) {
+      const std::string_view extension = kind.companionExtension;
+      if (std::find(listed.begin(), listed.end(), extension) != listed.end()) continue;
+      listed.push_back(extension);
+      const std::string path = base + std::string(extension);
+      if (fileExists(path)) list += "  " + path + "\n";
     }
   }
   if (symbol && fileExists(base + ".sym"))

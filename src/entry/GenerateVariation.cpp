@@ -59,18 +59,20 @@ void writeNativeCopy(ManagerApp& app, UserInterface& ui, const std::string& base
   if (run.catalog == nullptr) return;
   const CatalogEntry* entry = run.catalog->findEntry(run.modulonName);
   if (entry == nullptr || entry->nativeHdl.empty()) return;
-  const std::string extension = extensionOfKind(trimText(entry->nativeHdl));
+  const OutputKind* kind = outputKindOfExtension(extensionOfKind(trimText(entry->nativeHdl)));
+  if (kind == nullptr) return;
   std::string text;
-  if (extension == ".vhd") {
-    VhdlFileWriter writer(ui, basePath, run.modulonName, *run.description);
-    text = writer.designText();
-  } else if (extension == ".v") {
-    VerilogFileWriter writer(ui, basePath, run.modulonName, *run.description);
-    text = writer.designText();
-  } else {
-    return;
+  switch (kind->language) {
+    case OutputLanguage::kVhdl:
+      text = VhdlFileWriter(ui, basePath, run.modulonName, *run.description).designText();
+      break;
+    case OutputLanguage::kVerilog:
+      text = VerilogFileWriter(ui, basePath, run.modulonName, *run.description).designText();
+      break;
+    case OutputLanguage::kThdl:
+      return;  // a copy is made in VHDL or Verilog HDL only
   }
-  const std::string path = basePath + "_enc" + extension;
+  const std::string path = basePath + "_enc" + std::string(kind->designExtension);
   run.encPath = path;
   cpt_zpip_write_file(path.c_str(), text.c_str(), 0, 0);
 }

@@ -14,7 +14,7 @@ namespace plovix {
 VerilogFileWriter::VerilogFileWriter(UserInterface& ui, std::string basePath, std::string signatureName,
                                      CnxDescription& description)
     : HdlFileWriter(ui, std::move(basePath), std::move(signatureName), description) {
-  const OutputKind& kind = kOutputKinds[2];
+  const OutputKind& kind = outputKind(OutputLanguage::kVerilog);
   commentLeader_ = std::string(kind.commentLeader);
   designExtension_ = std::string(kind.designExtension);
   companionExtension_ = std::string(kind.companionExtension);

@@ -11,7 +11,7 @@ namespace plovix {
 VhdlFileWriter::VhdlFileWriter(UserInterface& ui, std::string basePath, std::string signatureName,
                                CnxDescription& description)
     : HdlFileWriter(ui, std::move(basePath), std::move(signatureName), description) {
-  const OutputKind& kind = kOutputKinds[1];
+  const OutputKind& kind = outputKind(OutputLanguage::kVhdl);
   commentLeader_ = std::string(kind.commentLeader);
   designExtension_ = std::string(kind.designExtension);
   companionExtension_ = std::string(kind.companionExtension);

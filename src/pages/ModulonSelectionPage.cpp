@@ -30,12 +30,13 @@ void ModulonSelectionPage::open(PageContext& context) {
     if (!library.empty()) libraryDirectories.push_back(shownPath(library));
   }
 
-  const int kind = outputKindIndexOfExtension(extension);
-  languageIndex = kind < 0 ? 0 : kind;
+  const OutputKind* kind = outputKindOfExtension(extension);
+  languageIndex = (kind != nullptr ? *kind : outputKind(OutputLanguage::kThdl)).buttonIndex;
 }
 
 std::string ModulonSelectionPage::checkedExtension() const {
-  return std::string(kOutputKinds[static_cast<size_t>(languageIndex)].designExtension);
+  const OutputKind* kind = outputKindOfButton(languageIndex);
+  return std::string((kind != nullptr ? *kind : outputKind(OutputLanguage::kThdl)).designExtension);
 }
 
 SaveFileRequest ModulonSelectionPage::browseRequest(PageContext& context) const {

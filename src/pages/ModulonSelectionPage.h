@@ -39,7 +39,7 @@ class ModulonSelectionPage : public WizardPageFrame {
 
   // The controls while the page is shown.
   std::string editText;
-  int languageIndex = 0;  // the checked radio button: an index into kOutputKinds (THDL, VHDL, Verilog)
+  int languageIndex = 0;  // the checked radio button: an OutputKind's buttonIndex (THDL, VHDL, Verilog)
   ModulonTree tree;
   std::vector<std::string> libraryDirectories;  // as the list shows them
 

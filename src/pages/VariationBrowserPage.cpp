@@ -81,10 +81,8 @@ std::string VariationBrowserPage::currentPattern() const {
 }
 
 void VariationBrowserPage::selectFileTypeOf(const std::string& fileExtension) {
-  selectedFileType = 0;
-  for (size_t i = 0; i < kOutputKinds.size(); ++i) {
-    if (kOutputKinds[i].designExtension == fileExtension) selectedFileType = static_cast<int>(i) + 1;
-  }
+  // The first type is every modulon file; then one type per output kind, in table order.
+  selectedFileType = outputKindIndexOfExtension(fileExtension) + 1;
 }
 
 std::string VariationBrowserPage::modulonNamedBy(const std::string& path) const {

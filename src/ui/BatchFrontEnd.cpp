@@ -1,6 +1,8 @@
 // Implementation of the batch front end: boxes as lines on standard error, pages filled from the options.
 #include "ui/BatchFrontEnd.h"
 
+#include "base/OutputKinds.h"
+
 #include <cstdio>
 
 #include "base/FileSystem.h"
@@ -54,13 +56,6 @@ std::string designFileName(const PageContext& context) {
 
 }  // namespace
 
-int batchLanguageIndex(const std::string& language) {
-  if (language == "thdl") return 0;
-  if (language == "vhdl") return 1;
-  if (language == "verilog") return 2;
-  return -1;
-}
-
 bool BatchFrontEnd::shownBefore(const WizardPageFrame& page) {
   return !shown_.insert(&page).second;
 }
@@ -88,8 +83,7 @@ int BatchFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext& cont
       item = page.tree.findByText(context.catalog.resolveAlias(options_.modulon));
     page.tree.select(item);
   }
-  const int language = batchLanguageIndex(options_.language);
-  if (language >= 0) page.languageIndex = language;
+  if (const OutputKind* kind = outputKindOfCliWord(options_.language)) page.languageIndex = kind->buttonIndex;
   return finishWithNext(page, context);
 }
 

@@ -12,9 +12,6 @@ namespace plovix {
 // The text of a box on one line: "\" as "\\", line feed as "\n", tab as "\t".
 std::string escapeBoxText(const std::string& text);
 
-// The language button of a PLOVIX_LANGUAGE / --language value (0 THDL, 1 VHDL, 2 Verilog HDL); -1 for none.
-int batchLanguageIndex(const std::string& language);
-
 class BatchFrontEnd : public FrontEnd {
  public:
   explicit BatchFrontEnd(FrontEndOptions options) : options_(std::move(options)) {}

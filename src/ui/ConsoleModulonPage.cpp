@@ -51,8 +51,8 @@ int ConsoleFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext& co
     const std::string argument = line.size() > command.size() ? trimText(line.substr(command.size())) : "";
     if (const size_t number = consoleNumber(command); number > 0) {
       if (number <= order.size()) page.tree.select(order[number - 1].first);
-    } else if (command == "thdl" || command == "vhdl" || command == "verilog") {
-      page.languageIndex = command == "thdl" ? 0 : command == "vhdl" ? 1 : 2;
+    } else if (const OutputKind* kind = outputKindOfCliWord(command)) {
+      page.languageIndex = kind->buttonIndex;
     } else if (command == "o") {
       page.editText = argument;
     } else if (command == "w") {

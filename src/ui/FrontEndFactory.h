@@ -13,7 +13,7 @@ enum class FrontEndKind { kAutomatic, kBatch, kConsole, kQt };
 struct FrontEndOptions {
   FrontEndKind kind = FrontEndKind::kAutomatic;
   std::string modulon;   // batch: the modulon chosen on the pages
-  std::string language;  // batch: "thdl", "vhdl" or "verilog"
+  std::string language;  // batch: an output kind's CLI word
   bool answerOk = true;  // batch: the answer to every question
 };
 

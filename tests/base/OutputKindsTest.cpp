@@ -26,6 +26,15 @@ TEST(OutputKinds, ExtensionsAreComparedExactly) {
   EXPECT_EQ(commentLeaderOfExtension(".v"), "//");
   EXPECT_EQ(commentLeaderOfExtension(" .tdf"), "--");
   EXPECT_EQ(commentLeaderOfExtension(".x"), "");
+  // Every row is found again by its extension, CLI word and button, and by nothing else.
+  for (const OutputKind& kind : kOutputKinds) {
+    EXPECT_EQ(outputKindOfExtension(kind.designExtension), &kind);
+    EXPECT_EQ(outputKindOfCliWord(kind.cliWord), &kind);
+    EXPECT_EQ(outputKindOfButton(kind.buttonIndex), &kind);
+    EXPECT_EQ(&outputKind(kind.language), &kind);
+  }
+  EXPECT_EQ(outputKindOfCliWord("VHDL"), nullptr);
+  EXPECT_EQ(outputKindOfButton(3), nullptr);
 }
 
 struct NameCase {

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "base/OutputKinds.h"
 #include "pages/PageTexts.h"
 #include "ui/qt/QtPicture.h"
 
@@ -61,11 +62,11 @@ QtModulonDialog::QtModulonDialog(ModulonSelectionPage& page, PageContext& contex
   QLabel* typeLabel = addLabel(this, pagetexts::kTypeQuestion, QRect(245, 48, 305, 18));
   const std::string_view names[] = {pagetexts::kThdlButton, pagetexts::kVhdlButton,
                                     pagetexts::kVerilogButton};
-  const char* objectNames[] = {"thdl", "vhdl", "verilog"};
   const int ids[] = {kControlThdlButton, kControlVhdlButton, kControlVerilogButton};
   for (int i = 0; i < 3; ++i) {
     languages_[static_cast<size_t>(i)] = new QRadioButton(text(names[i]), this);
-    languages_[static_cast<size_t>(i)]->setObjectName(objectNames[i]);
+    languages_[static_cast<size_t>(i)]->setObjectName(
+        QString::fromStdString(std::string(outputKindOfButton(i)->cliWord)));
     languages_[static_cast<size_t>(i)]->setGeometry(255 + i * 95, 68, 95, 22);
     registerControl(ids[i], languages_[static_cast<size_t>(i)]);
   }
