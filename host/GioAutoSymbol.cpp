@@ -63,7 +63,7 @@ void addLine(Drawing& d, Point from, Point to, int style, int width) {
   line.second = to;
   line.style = style;
   line.width = width;
-  const int type = from.x == to.x ? kVerticalLine : from.y == to.y ? kHorizontalLine : kOtherLine;
+  const int type = from.x == to.x ? GIO_VERTICAL_LINE : from.y == to.y ? GIO_HORIZONTAL_LINE : GIO_OTHER_LINE;
   d.append(type, line);
 }
 
@@ -85,13 +85,13 @@ int widestOf(const Metrics& m, const std::vector<const AutoPin*>& pins) {
 }
 
 void addPin(Drawing& d, const Metrics& m, const AutoPin& pin, Point point, Point boxEdge, Point textStart) {
-  const int style = pin.name.find('[') != std::string::npos ? 5 : 0;
-  addLine(d, point, boxEdge, style, 0);
+  const int style = pin.name.find('[') != std::string::npos ? GIO_BUS : GIO_SOLID;
+  addLine(d, point, boxEdge, style, GIO_THIN);
   TextBody text = makeText(m, textStart, pin.pinType, pin.name);
   text.altText = pin.altText;
   text.isPin = true;
   text.pinPoint = point;
-  d.append(kText, text);
+  d.append(GIO_TEXT, text);
 }
 
 // Lays the collected pins and the parameter text out as records of `d`.
@@ -99,8 +99,8 @@ void layOut(Drawing& d, const std::string& parameters) {
   const Metrics m;
   std::vector<const AutoPin*> left, right;
   for (const AutoPin& pin : d.pins)
-    if (pin.pinType != kOutputText && pin.pinType != kBidirText) left.push_back(&pin);
-  for (int type : {kOutputText, kBidirText})
+    if (pin.pinType != GIO_OUTPUT_TEXT && pin.pinType != GIO_BIDIR_TEXT) left.push_back(&pin);
+  for (int type : {GIO_OUTPUT_TEXT, GIO_BIDIR_TEXT})
     for (const AutoPin& pin : d.pins)
       if (pin.pinType == type) right.push_back(&pin);
 
@@ -112,7 +112,7 @@ void layOut(Drawing& d, const std::string& parameters) {
   const int boxLeft = kMargin + kStub, boxTop = roundUp(kMargin + m.line + 4, 8);
   const int boxRight = boxLeft + boxWidth, boxBottom = boxTop + boxHeight;
 
-  d.append(kText, makeText(m, Point{boxLeft, boxTop - m.line - 4}, kNameText, d.name));
+  d.append(GIO_TEXT, makeText(m, Point{boxLeft, boxTop - m.line - 4}, GIO_MACRO_TEXT, d.name));
   const Point corners[] = {
       {boxLeft, boxTop}, {boxRight, boxTop}, {boxRight, boxBottom}, {boxLeft, boxBottom}};
   for (int i = 0; i < 4; ++i) addLine(d, corners[i], corners[(i + 1) % 4], 0, 1);
@@ -132,10 +132,10 @@ void layOut(Drawing& d, const std::string& parameters) {
     const std::vector<std::string> lines = splitLines(parameters);
     int widest = 0;
     for (const std::string& line : lines) widest = std::max(widest, m.width(line));
-    TextBody block = makeText(m, Point{boxLeft, boxBottom + 8}, kParameterText, parameters);
+    TextBody block = makeText(m, Point{boxLeft, boxBottom + 8}, GIO_NEW_PROP_TEXT, parameters);
     block.size = Point{widest, m.line * static_cast<int>(lines.size())};
     block.edit = 1;
-    d.append(kText, block);
+    d.append(GIO_TEXT, block);
     bottom = block.start.y + block.size.y;
     rightmost = std::max(rightmost, boxLeft + widest);
   }

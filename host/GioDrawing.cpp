@@ -7,18 +7,18 @@ namespace plovix::gio {
 
 bool bodyOfType(int type, RecordBody& body) {
   switch (type) {
-    case kHorizontalLine:
-    case kVerticalLine:
-    case kOtherLine:
+    case GIO_HORIZONTAL_LINE:
+    case GIO_VERTICAL_LINE:
+    case GIO_OTHER_LINE:
       body = LineBody{};
       return true;
-    case kArc:
+    case GIO_ARC:
       body = ArcBody{};
       return true;
-    case kCircle:
+    case GIO_CIRCLE:
       body = CircleBody{};
       return true;
-    case kText:
+    case GIO_TEXT:
       body = TextBody{};
       return true;
     default:

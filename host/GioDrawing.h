@@ -5,23 +5,9 @@
 #include <variant>
 #include <vector>
 
+#include "plovix_host.h"
+
 namespace plovix::gio {
-
-// Record types.
-inline constexpr int kHorizontalLine = 2;
-inline constexpr int kVerticalLine = 3;
-inline constexpr int kOtherLine = 4;
-inline constexpr int kArc = 5;
-inline constexpr int kCircle = 6;
-inline constexpr int kText = 7;
-
-// Text types that the automatic symbol and the pictures tell apart.
-inline constexpr int kSymbolText = 1;
-inline constexpr int kInputText = 2;
-inline constexpr int kOutputText = 3;
-inline constexpr int kBidirText = 4;
-inline constexpr int kNameText = 19;
-inline constexpr int kParameterText = 55;
 
 inline constexpr int kMaxHandle = 32767;
 
@@ -34,8 +20,8 @@ struct Point {
 struct LineBody {
   Point first, second;
   int firstDot = 0, secondDot = 0;
-  int style = 0;  // 0 solid, 1 dotted, 2 dense, 3 broken, 4 dashed, 5 bus
-  int width = 0;  // 0 thin, 1 thick
+  int style = GIO_SOLID;  // a gio_line_style
+  int width = GIO_THIN;   // a gio_line_width
 };
 
 struct ArcBody {
@@ -61,7 +47,7 @@ struct TextBody {
   int edit = 0;
   int color = 0;
   int zoom = 0;
-  int orientation = 0;  // 1 vertical
+  int orientation = GIO_HORIZONTAL;  // a gio_orientation
   int visibleStatus = 0;
   std::string fontString;
   std::string text;

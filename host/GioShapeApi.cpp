@@ -7,7 +7,7 @@ using namespace plovix::gio;
 namespace {
 
 bool isLineType(int type) {
-  return type == kHorizontalLine || type == kVerticalLine || type == kOtherLine;
+  return type == GIO_HORIZONTAL_LINE || type == GIO_VERTICAL_LINE || type == GIO_OTHER_LINE;
 }
 
 LineBody* lineBody(Access& access, short instance, int type, short rec) {
@@ -37,7 +37,7 @@ extern "C" int gio_line_set_dots(short instance, int type, short rec, int firstD
     line->firstDot = firstDot;
     line->secondDot = secondDot;
     ok = 1;
-  } else if (ArcBody* arc = type == kArc ? access.body<ArcBody>(instance, type, rec) : nullptr) {
+  } else if (ArcBody* arc = type == GIO_ARC ? access.body<ArcBody>(instance, type, rec) : nullptr) {
     arc->firstDot = firstDot;
     arc->secondDot = secondDot;
     ok = 1;
@@ -66,7 +66,7 @@ extern "C" int gio_line_set_width(short instance, int type, short rec, int width
 
 extern "C" int gio_circle_set_coordinates(short instance, short rec, const gio_point* centre, int radius) {
   Access access;
-  CircleBody* circle = access.body<CircleBody>(instance, kCircle, rec);
+  CircleBody* circle = access.body<CircleBody>(instance, GIO_CIRCLE, rec);
   const int ok = circle != nullptr && centre != nullptr ? 1 : 0;
   if (ok) {
     circle->centre = toPoint(*centre);
@@ -78,7 +78,7 @@ extern "C" int gio_circle_set_coordinates(short instance, short rec, const gio_p
 
 extern "C" int gio_circle_set_attr_fill(short instance, short rec, int filled) {
   Access access;
-  CircleBody* circle = access.body<CircleBody>(instance, kCircle, rec);
+  CircleBody* circle = access.body<CircleBody>(instance, GIO_CIRCLE, rec);
   if (circle != nullptr) circle->filled = filled;
   const int ok = circle != nullptr ? 1 : 0;
   TraceLine("gio_circle_set_attr_fill").arg(instance).arg(rec).arg(filled).result(ok);
@@ -88,7 +88,7 @@ extern "C" int gio_circle_set_attr_fill(short instance, short rec, int filled) {
 extern "C" int gio_arc_set_coordinates(short instance, short rec, const gio_point* centre, int radius,
                                        int firstAngle, int secondAngle) {
   Access access;
-  ArcBody* arc = access.body<ArcBody>(instance, kArc, rec);
+  ArcBody* arc = access.body<ArcBody>(instance, GIO_ARC, rec);
   const int ok = arc != nullptr && centre != nullptr ? 1 : 0;
   if (ok) {
     arc->centre = toPoint(*centre);
@@ -109,7 +109,7 @@ extern "C" int gio_arc_set_coordinates(short instance, short rec, const gio_poin
 
 extern "C" int gio_arc_set_points(short instance, short rec, const gio_point* start, const gio_point* end) {
   Access access;
-  ArcBody* arc = access.body<ArcBody>(instance, kArc, rec);
+  ArcBody* arc = access.body<ArcBody>(instance, GIO_ARC, rec);
   const int ok = arc != nullptr && start != nullptr && end != nullptr ? 1 : 0;
   if (ok) {
     arc->start = toPoint(*start);

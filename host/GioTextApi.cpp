@@ -12,7 +12,7 @@ namespace {
 template <class Value, class Apply>
 int setText(const char* function, short instance, int type, short rec, Value value, Apply apply) {
   Access access;
-  TextBody* text = type == kText ? access.body<TextBody>(instance, type, rec) : nullptr;
+  TextBody* text = type == GIO_TEXT ? access.body<TextBody>(instance, type, rec) : nullptr;
   const int ok = text != nullptr && apply(*text, value) ? 1 : 0;
   TraceLine(function).arg(instance).arg(type).arg(rec).arg(value).result(ok);
   return ok;
@@ -99,7 +99,7 @@ extern "C" int gio_obj_set_visible_status(short instance, int type, short rec, i
 
 extern "C" int gio_text_get_attr_type(short instance, int type, short rec) {
   Access access;
-  const TextBody* text = type == kText ? access.body<TextBody>(instance, type, rec) : nullptr;
+  const TextBody* text = type == GIO_TEXT ? access.body<TextBody>(instance, type, rec) : nullptr;
   const int textType = text != nullptr ? text->textType : 0;
   TraceLine("gio_text_get_attr_type").arg(instance).arg(type).arg(rec).result(textType);
   return textType;
@@ -108,7 +108,7 @@ extern "C" int gio_text_get_attr_type(short instance, int type, short rec) {
 extern "C" int gio_text_create_pinstub(short instance, int type, short rec, const gio_point* point,
                                        int reserved) {
   Access access;
-  TextBody* text = type == kText ? access.body<TextBody>(instance, type, rec) : nullptr;
+  TextBody* text = type == GIO_TEXT ? access.body<TextBody>(instance, type, rec) : nullptr;
   const int ok = text != nullptr && point != nullptr ? 1 : 0;
   if (ok) {
     text->isPin = true;

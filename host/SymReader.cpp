@@ -130,13 +130,13 @@ bool readHeader(const Fields& f, gio::Drawing& d) {
 }
 
 bool readLine(const Fields& f, gio::Drawing& d) {
-  int type = gio::kOtherLine;
+  int type = GIO_OTHER_LINE;
   gio::LineBody b;
   Point dots;
   if (!(get(f, "type", type) && get(f, "from", b.first) && get(f, "to", b.second) && get(f, "dots", dots) &&
         get(f, "style", b.style) && get(f, "width", b.width)))
     return false;
-  if (type != gio::kHorizontalLine && type != gio::kVerticalLine && type != gio::kOtherLine) return false;
+  if (type != GIO_HORIZONTAL_LINE && type != GIO_VERTICAL_LINE && type != GIO_OTHER_LINE) return false;
   b.firstDot = dots.x;
   b.secondDot = dots.y;
   d.append(type, b);
@@ -153,14 +153,14 @@ bool readArc(const Fields& f, gio::Drawing& d) {
   b.secondAngle = angles.y;
   b.firstDot = dots.x;
   b.secondDot = dots.y;
-  d.append(gio::kArc, b);
+  d.append(GIO_ARC, b);
   return true;
 }
 
 bool readCircle(const Fields& f, gio::Drawing& d) {
   gio::CircleBody b;
   if (!(get(f, "centre", b.centre) && get(f, "radius", b.radius) && get(f, "filled", b.filled))) return false;
-  d.append(gio::kCircle, b);
+  d.append(GIO_CIRCLE, b);
   return true;
 }
 
@@ -173,7 +173,7 @@ bool readText(const Fields& f, gio::Drawing& d) {
         get(f, "text", b.text) && get(f, "alt-text", b.altText) && get(f, "pin", b.pinPoint)))
     return false;
   b.isPin = f.count("pin") > 0;
-  d.append(gio::kText, b);
+  d.append(GIO_TEXT, b);
   return true;
 }
 

@@ -56,7 +56,7 @@ class Bounds {
 
 // The text's box on the sheet: the horizontal box, or for a vertical text that box turned about its centre.
 void addTextBox(Bounds& b, const gio::TextBody& t) {
-  if (t.orientation == 1) {
+  if (t.orientation == GIO_VERTICAL) {
     const long long cx = t.start.x + t.size.x / 2LL, cy = t.start.y + t.size.y / 2LL;
     b.add(cx - t.size.y / 2LL, cy - t.size.x / 2LL);
     b.add(cx + t.size.y / 2LL, cy + t.size.x / 2LL);
@@ -107,7 +107,7 @@ std::string dashesOf(int style) {
 }
 
 std::string lineElement(const gio::LineBody& l) {
-  const double width = l.style == 5 ? 3 : l.width == 1 ? 2 : 1;
+  const double width = l.style == GIO_BUS ? 3 : l.width == GIO_THICK ? 2 : 1;
   return "<line" + attr("x1", l.first.x) + attr("y1", l.first.y) + attr("x2", l.second.x) +
          attr("y2", l.second.y) + attr("stroke-width", width) + dashesOf(l.style) + "/>\n";
 }
@@ -150,9 +150,9 @@ std::string textElement(const gio::TextBody& t) {
   const std::string face = font.substr(0, font.find(','));
   std::string out = "<text" + attr("x", t.start.x) + attr("y", t.start.y + 0.9 * em) + attr("font-size", em) +
                     attr("font-family", (face.empty() ? std::string() : face + ", ") + "sans-serif");
-  if (t.textType == gio::kParameterText) out += attr("fill", std::string(kParameterColour));
-  if (t.textType == gio::kNameText) out += " font-weight=\"bold\"";
-  if (t.orientation == 1) {
+  if (t.textType == GIO_NEW_PROP_TEXT) out += attr("fill", std::string(kParameterColour));
+  if (t.textType == GIO_MACRO_TEXT) out += " font-weight=\"bold\"";
+  if (t.orientation == GIO_VERTICAL) {
     const double cx = t.start.x + t.size.x / 2.0, cy = t.start.y + t.size.y / 2.0;
     out += attr("transform", "rotate(-90 " + num(cx) + " " + num(cy) + ")");
   }

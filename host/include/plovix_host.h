@@ -22,12 +22,45 @@ PLOVIX_HOST_API int cpt_zpip_write_file(const char* path, const char* text, int 
 
 /* GIO: the symbol drawing database.
  * Handles: an instance (a drawing) and a record (one element of a drawing) are 16-bit numbers, 0 meaning
- * none. Record types: 2 horizontal line, 3 vertical line, 4 other line, 5 arc, 6 circle, 7 text. Points are
+ * none. Record types, text types, line looks and orientations are the numbers named below. Points are
  * passed by address. Functions without a value of their own return 1 on success, 0 on failure (an unknown
  * instance or record, a record of another type, a missing argument). Drawing units are pixels of a 96 dpi
  * display. The .sym file format is described in docs/sym-format.md. Setting PLOVIX_GIO_TRACE=FILE appends one
  * line per gio_ call to FILE: the name, the arguments in order and the result, e.g. `gio_rec_create(1, 7) ->
  * 2`. */
+/* Record types. */
+enum gio_record_type {
+  GIO_HORIZONTAL_LINE = 2,
+  GIO_VERTICAL_LINE = 3,
+  GIO_OTHER_LINE = 4,
+  GIO_ARC = 5,
+  GIO_CIRCLE = 6,
+  GIO_TEXT = 7
+};
+
+/* Text types: a symbol's own text, the three pin texts (also the automatic symbol's pin types), the name
+ * (macro) text and the parameter (new property) text. */
+enum gio_text_type {
+  GIO_SYMBOL_TEXT = 1,
+  GIO_INPUT_TEXT = 2,
+  GIO_OUTPUT_TEXT = 3,
+  GIO_BIDIR_TEXT = 4,
+  GIO_MACRO_TEXT = 19,
+  GIO_NEW_PROP_TEXT = 55
+};
+
+/* Line styles and widths, and the orientation of a text. */
+enum gio_line_style {
+  GIO_SOLID = 0,
+  GIO_DOTTED = 1,
+  GIO_DENSE = 2,
+  GIO_BROKEN = 3,
+  GIO_DASHED = 4,
+  GIO_BUS = 5
+};
+enum gio_line_width { GIO_THIN = 0, GIO_THICK = 1 };
+enum gio_orientation { GIO_HORIZONTAL = 0, GIO_VERTICAL = 1 };
+
 typedef struct gio_point {
   int x;
   int y;
@@ -41,8 +74,9 @@ typedef struct gio_error_context {
 } gio_error_context;
 
 /* The automatic symbol: a box with the drawing's name, inputs on the left, outputs and bidirectional pins on
- * the right, and the parameter text below. Pin types: 2 input, 3 output, 4 bidirectional, other values are
- * placed with the inputs. The last call lays the symbol out, writes the file and frees the instance. */
+ * the right, and the parameter text below. Pin types: GIO_INPUT_TEXT, GIO_OUTPUT_TEXT, GIO_BIDIR_TEXT; other
+ * values are placed with the inputs. The last call lays the symbol out, writes the file and frees the
+ * instance. */
 PLOVIX_HOST_API short gio_sym_auto_gen_begin(gio_error_context* error, const char* file_name, int reserved);
 PLOVIX_HOST_API int gio_sym_add_pin_stub_w_alt_text(const char* alt_text, const char* pin_name, int pin_type,
                                                     short instance);

@@ -51,7 +51,7 @@ void SymbolBuilder::drawLine(const SymbolLine& line) {
 }
 
 void SymbolBuilder::drawSegment(int a, int b, int c, int d, const SymbolLine& look) {
-  const int type = a == c ? kVerticalLineRecord : b == d ? kHorizontalLineRecord : kOtherLineRecord;
+  const int type = a == c ? GIO_VERTICAL_LINE : b == d ? GIO_HORIZONTAL_LINE : GIO_OTHER_LINE;
   const gio_point first{a, b}, second{c, d};
   const short rec = gio_rec_create(instance_, type);
   gio_line_set_points(instance_, type, rec, &first, &second);
@@ -63,19 +63,19 @@ void SymbolBuilder::drawSegment(int a, int b, int c, int d, const SymbolLine& lo
 
 void SymbolBuilder::drawArc(const SymbolArc& arc) {
   const gio_point centre{arc.centerX, arc.centerY}, start{arc.startX, arc.startY}, end{arc.endX, arc.endY};
-  const short rec = gio_rec_create(instance_, kArcRecord);
+  const short rec = gio_rec_create(instance_, GIO_ARC);
   gio_arc_set_coordinates(instance_, rec, &centre, arc.radius, 0, 0);
   gio_arc_set_points(instance_, rec, &start, &end);
-  gio_line_set_dots(instance_, kArcRecord, rec, 0, 0);
-  gio_rec_connect(instance_, kArcRecord, rec, 0);
+  gio_line_set_dots(instance_, GIO_ARC, rec, 0, 0);
+  gio_rec_connect(instance_, GIO_ARC, rec, 0);
 }
 
 void SymbolBuilder::drawCircle(const SymbolCircle& circle) {
   const gio_point centre{circle.centerX, circle.centerY};
-  const short rec = gio_rec_create(instance_, kCircleRecord);
+  const short rec = gio_rec_create(instance_, GIO_CIRCLE);
   gio_circle_set_coordinates(instance_, rec, &centre, circle.radius);
   gio_circle_set_attr_fill(instance_, rec, circle.filled ? 1 : 0);
-  gio_rec_connect(instance_, kCircleRecord, rec, 0);
+  gio_rec_connect(instance_, GIO_CIRCLE, rec, 0);
 }
 
 }  // namespace plovix

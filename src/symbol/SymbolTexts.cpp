@@ -40,26 +40,26 @@ short SymbolBuilder::drawText(const SymbolText& text) {
     start.y = text.y - (size.cy - size.cx) / 2;
   }
   const gio_point extent{size.cx, size.cy};
-  const short rec = gio_rec_create(instance_, kTextRecord);
-  gio_text_set_start_point(instance_, kTextRecord, rec, &start);
-  gio_text_set_attr_type(instance_, kTextRecord, rec, textTypeCode(text.textType));
-  gio_text_set_attr_font(instance_, kTextRecord, rec, 4);
-  gio_text_set_attr_display(instance_, kTextRecord, rec, 1);
-  gio_text_set_attr_edit(instance_, kTextRecord, rec, 0);
-  gio_text_set_attr_color(instance_, kTextRecord, rec, 0);
-  gio_text_set_attr_zoom(instance_, kTextRecord, rec, 0);
-  gio_text_set_orientation(instance_, kTextRecord, rec, orientationCode(text.orientation));
-  gio_text_set_attr_font_string(instance_, kTextRecord, rec, fontOrDefault(text.font).c_str());
-  gio_text_set_attr_size(instance_, kTextRecord, rec, &extent);
+  const short rec = gio_rec_create(instance_, GIO_TEXT);
+  gio_text_set_start_point(instance_, GIO_TEXT, rec, &start);
+  gio_text_set_attr_type(instance_, GIO_TEXT, rec, textTypeCode(text.textType));
+  gio_text_set_attr_font(instance_, GIO_TEXT, rec, 4);
+  gio_text_set_attr_display(instance_, GIO_TEXT, rec, 1);
+  gio_text_set_attr_edit(instance_, GIO_TEXT, rec, 0);
+  gio_text_set_attr_color(instance_, GIO_TEXT, rec, 0);
+  gio_text_set_attr_zoom(instance_, GIO_TEXT, rec, 0);
+  gio_text_set_orientation(instance_, GIO_TEXT, rec, orientationCode(text.orientation));
+  gio_text_set_attr_font_string(instance_, GIO_TEXT, rec, fontOrDefault(text.font).c_str());
+  gio_text_set_attr_size(instance_, GIO_TEXT, rec, &extent);
   if (!text.text.empty()) {
-    gio_text_set_text(instance_, kTextRecord, rec, text.text.c_str());
-    gio_obj_set_visible_status(instance_, kTextRecord, rec, 0);
+    gio_text_set_text(instance_, GIO_TEXT, rec, text.text.c_str());
+    gio_obj_set_visible_status(instance_, GIO_TEXT, rec, 0);
   } else {
-    gio_text_set_text(instance_, kTextRecord, rec, text.altText.empty() ? "$" : text.altText.c_str());
-    gio_text_set_attr_display(instance_, kTextRecord, rec, 0);
+    gio_text_set_text(instance_, GIO_TEXT, rec, text.altText.empty() ? "$" : text.altText.c_str());
+    gio_text_set_attr_display(instance_, GIO_TEXT, rec, 0);
   }
-  if (!text.altText.empty()) gio_text_set_alt_text(instance_, kTextRecord, rec, text.altText.c_str());
-  gio_rec_connect(instance_, kTextRecord, rec, 0);
+  if (!text.altText.empty()) gio_text_set_alt_text(instance_, GIO_TEXT, rec, text.altText.c_str());
+  gio_rec_connect(instance_, GIO_TEXT, rec, 0);
   return rec;
 }
 
@@ -67,7 +67,7 @@ void SymbolBuilder::drawPinStub(const SymbolPinStub& stub) {
   const short rec = drawText(SymbolText{stub.label, stub.pinName, stub.textX, stub.textY, stub.orientation,
                                         stub.font, stub.stubType});
   const gio_point point{stub.x, stub.y};
-  gio_text_create_pinstub(instance_, kTextRecord, rec, &point, 0);
+  gio_text_create_pinstub(instance_, GIO_TEXT, rec, &point, 0);
 }
 
 // One text holding every parameter line, each followed by a line end; its width is counted in characters and
@@ -75,17 +75,17 @@ void SymbolBuilder::drawPinStub(const SymbolPinStub& stub) {
 void SymbolBuilder::drawParameterBlock(const SymbolParameter& parameter) {
   if (parameter.text.empty()) return;
   const std::string font = fontOrDefault(parameter.font);
-  const short rec = gio_rec_create(instance_, kTextRecord);
+  const short rec = gio_rec_create(instance_, GIO_TEXT);
   const gio_point origin{0, 0};
-  gio_text_set_start_point(instance_, kTextRecord, rec, &origin);
-  gio_text_set_attr_type(instance_, kTextRecord, rec, kNewPropTextType);
-  gio_text_set_attr_font(instance_, kTextRecord, rec, 4);
-  gio_text_set_attr_edit(instance_, kTextRecord, rec, 1);
-  gio_text_set_attr_color(instance_, kTextRecord, rec, 0);
-  gio_text_set_attr_display(instance_, kTextRecord, rec, 1);
-  gio_text_set_attr_zoom(instance_, kTextRecord, rec, 0);
-  gio_text_set_orientation(instance_, kTextRecord, rec, 0);
-  gio_text_set_attr_font_string(instance_, kTextRecord, rec, font.c_str());
+  gio_text_set_start_point(instance_, GIO_TEXT, rec, &origin);
+  gio_text_set_attr_type(instance_, GIO_TEXT, rec, GIO_NEW_PROP_TEXT);
+  gio_text_set_attr_font(instance_, GIO_TEXT, rec, 4);
+  gio_text_set_attr_edit(instance_, GIO_TEXT, rec, 1);
+  gio_text_set_attr_color(instance_, GIO_TEXT, rec, 0);
+  gio_text_set_attr_display(instance_, GIO_TEXT, rec, 1);
+  gio_text_set_attr_zoom(instance_, GIO_TEXT, rec, 0);
+  gio_text_set_orientation(instance_, GIO_TEXT, rec, 0);
+  gio_text_set_attr_font_string(instance_, GIO_TEXT, rec, font.c_str());
   const std::vector<std::string> lines = parameterLines(parameter.text);
   std::string block;
   size_t longest = 0;
@@ -95,20 +95,20 @@ void SymbolBuilder::drawParameterBlock(const SymbolParameter& parameter) {
   }
   const int count = static_cast<int>(lines.size());
   const gio_point size{static_cast<int>(longest), measureSymbolText(block, font).cy * count};
-  gio_text_set_attr_size(instance_, kTextRecord, rec, &size);
-  if (!block.empty()) gio_text_set_text(instance_, kTextRecord, rec, block.c_str());
-  gio_rec_connect(instance_, kTextRecord, rec, 0);
+  gio_text_set_attr_size(instance_, GIO_TEXT, rec, &size);
+  if (!block.empty()) gio_text_set_text(instance_, GIO_TEXT, rec, block.c_str());
+  gio_rec_connect(instance_, GIO_TEXT, rec, 0);
 }
 
 // The box sets the sheet and replaces the first name or symbol text with the drawing's name.
 void SymbolBuilder::drawBox(const SymbolBox& box) {
   const gio_point sheet{box.sheetWidth, box.sheetHeight};
   gio_db_set_sheet_size(instance_, &sheet);
-  for (short rec = gio_rec_first(instance_, kTextRecord); rec != 0;
-       rec = gio_rec_next(instance_, kTextRecord, rec)) {
-    const int type = gio_text_get_attr_type(instance_, kTextRecord, rec);
-    if (type == kMacroTextType || type == kSymbolTextType) {
-      gio_rec_delete(instance_, kTextRecord, rec);
+  for (short rec = gio_rec_first(instance_, GIO_TEXT); rec != 0;
+       rec = gio_rec_next(instance_, GIO_TEXT, rec)) {
+    const int type = gio_text_get_attr_type(instance_, GIO_TEXT, rec);
+    if (type == GIO_MACRO_TEXT || type == GIO_SYMBOL_TEXT) {
+      gio_rec_delete(instance_, GIO_TEXT, rec);
       break;
     }
   }
