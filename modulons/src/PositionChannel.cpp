@@ -7,14 +7,13 @@
 
 #include <cstddef>
 #include <cstring>
+#include <string>
+
+#include "plovix_position.h"
 
 namespace plovix::wizard {
 
-std::string positionSocketName(long long managerThread) {
-  return "plovix-" + std::to_string(managerThread);
-}
-
-bool reportWindowCorner(long long managerThread, long long right, long long bottom) {
+bool reportWindowCorner(long long managerThread, int right, int bottom) {
   const std::string name = positionSocketName(managerThread);
   sockaddr_un address{};
   address.sun_family = AF_UNIX;
@@ -25,7 +24,7 @@ bool reportWindowCorner(long long managerThread, long long right, long long bott
 
   const int fd = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
   if (fd < 0) return false;
-  const std::string message = "1034 " + std::to_string(right) + " " + std::to_string(bottom);
+  const std::string message = formatPositionReport(right, bottom);
   const bool sent = sendto(fd, message.data(), message.size(), 0, reinterpret_cast<const sockaddr*>(&address),
                            length) == static_cast<ssize_t>(message.size());
   close(fd);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "platform/CommandLineWords.h"
 #include "platform/PositionChannel.h"
 #include "platform/ProgramSearch.h"
+#include "plovix_position.h"
 
 namespace plovix {
 namespace {
@@ -44,14 +46,15 @@ TEST(FindProgram, SearchesThePathWithTheExeRuleAndJavaFallback) {
 }
 
 TEST(PositionReport, ReadsOnlyWellFormedReports) {
-  const auto report = PositionChannel::parseReport(" 1034 640\t-480\n");
-  ASSERT_TRUE(report.has_value());
-  EXPECT_EQ(report->right, 640);
-  EXPECT_EQ(report->bottom, -480);
-  for (const char* bad : {"1035 1 2", "1034 1", "1034 1 2 3", "1034 a 2", "1034 1 99999999999", ""}) {
-    EXPECT_FALSE(PositionChannel::parseReport(bad).has_value()) << bad;
+  EXPECT_EQ(parsePositionReport(" 1034 640\t-480\n"), (PositionReport{640, -480}));
+  for (const PositionReport corner : {PositionReport{0, 0}, PositionReport{INT32_MIN, INT32_MAX}})
+    EXPECT_EQ(parsePositionReport(formatPositionReport(corner.right, corner.bottom)), corner);
+  for (const char* bad : {"1035 1 2", "1034 1", "1034 1 2 3", "1034 a 2", "1034 1 2147483648", "1034 +1 2",
+                          "1034 - 2", "1034 1x 2", "99999999999 1 2", ""}) {
+    EXPECT_FALSE(parsePositionReport(bad).has_value()) << bad;
   }
-  EXPECT_EQ(PositionChannel::socketName(4321), "plovix-4321");
+  EXPECT_FALSE(parsePositionReport(std::string_view("1034 1 2\0", 9)).has_value());
+  EXPECT_EQ(positionSocketName(4321), "plovix-4321");
 }
 
 class MacroTest : public testing::LaunchFixture {};

@@ -132,7 +132,7 @@ void sendReport(long threadId, const std::string& text) {
   const int fd = socket(AF_UNIX, SOCK_DGRAM, 0);
   sockaddr_un address{};
   address.sun_family = AF_UNIX;
-  const std::string name = PositionChannel::socketName(threadId);
+  const std::string name = positionSocketName(threadId);
   std::memcpy(address.sun_path + 1, name.data(), name.size());
   const auto length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + name.size());
   sendto(fd, text.data(), text.size(), 0, reinterpret_cast<const sockaddr*>(&address), length);
@@ -148,7 +148,7 @@ TEST_F(LaunchRunTest, PositionReportsUpdateTheWindowCorner) {
   std::thread plugin([&] {
     while (!fileExistsForTest(lib.path("started")))
       std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    sendReport(threadId, "1034 800 600");
+    sendReport(threadId, formatPositionReport(800, 600));
     sendReport(threadId, "1034 oops 1");
     std::this_thread::sleep_for(std::chrono::milliseconds(50));
     lib.write("go", "");

@@ -9,14 +9,14 @@
 #include <cstring>
 
 #include "PositionChannel.h"
+#include "plovix_position.h"
 
 namespace plovix::wizard {
 namespace {
 
-TEST(PositionChannelTest, SendsTheCornerAsMessage1034) {
+TEST(PositionChannelTest, SendsTheCornerAsAPositionReport) {
   const long long id = 900000 + getpid();
   const std::string name = positionSocketName(id);
-  EXPECT_EQ(name, "plovix-" + std::to_string(id));
   EXPECT_FALSE(reportWindowCorner(id, 1, 2));  // nobody listens yet
 
   const int fd = socket(AF_UNIX, SOCK_DGRAM, 0);
@@ -31,7 +31,7 @@ TEST(PositionChannelTest, SendsTheCornerAsMessage1034) {
   char buffer[64] = {};
   const ssize_t got = recv(fd, buffer, sizeof(buffer) - 1, 0);
   close(fd);
-  EXPECT_EQ(std::string(buffer, got > 0 ? got : 0), "1034 812 -3");
+  EXPECT_EQ(parsePositionReport(std::string_view(buffer, got > 0 ? got : 0)), (PositionReport{812, -3}));
 }
 
 }  // namespace

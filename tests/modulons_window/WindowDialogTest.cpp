@@ -18,6 +18,7 @@
 #include "ModulonLibrary.h"
 #include "PositionChannel.h"
 #include "WindowDialog.h"
+#include "plovix_position.h"
 
 namespace plovix::wizard {
 namespace {
@@ -129,7 +130,7 @@ TEST_F(WindowDialogTest, PlacedAtTheManagersCornerAndReportsItsOwn) {
   char buffer[64] = {};
   const ssize_t got = recv(fd, buffer, sizeof(buffer) - 1, MSG_DONTWAIT);
   close(fd);
-  EXPECT_EQ(std::string(buffer, got > 0 ? got : 0), "1034 900 700");
+  EXPECT_EQ(parsePositionReport(std::string_view(buffer, got > 0 ? got : 0)), (PositionReport{900, 700}));
 }
 
 }  // namespace
