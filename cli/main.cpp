@@ -8,21 +8,6 @@
 #include "entry/RunFlow.h"
 #include "entry/StandardRunSteps.h"
 
-namespace {
-
-// The run's real steps, noting whether a description was read after the plug-in finished.
-class CommandRunSteps : public plovix::StandardRunSteps {
- public:
-  using StandardRunSteps::StandardRunSteps;
-  bool readDescription(plovix::ManagerRun& run) override {
-    descriptionRead = StandardRunSteps::readDescription(run);
-    return descriptionRead;
-  }
-  bool descriptionRead = false;
-};
-
-}  // namespace
-
 int main(int argc, char** argv) {
   plovix::CommandLine commandLine;
   switch (plovix::parseCommandLine(argc, argv, commandLine)) {
@@ -41,9 +26,9 @@ int main(int argc, char** argv) {
   plovix::ManagerApp& app = plovix::ManagerApp::instance();
   app.restoreDirectoryAtExit = false;
   app.fetchProjectDirectory();
-  CommandRunSteps steps(app, *frontEnd, *frontEnd);
+  plovix::StandardRunSteps steps(app, *frontEnd, *frontEnd);
   plovix::runManager(app, *frontEnd, steps,
                      commandLine.hasDesignFile ? commandLine.designFile.c_str() : nullptr,
                      commandLine.pluginArgs.c_str());
-  return steps.descriptionRead ? 0 : 1;
+  return app.run.outcome.exitStatus();
 }

@@ -81,7 +81,11 @@ void reportFileError(UserInterface& ui, FileErrorCause cause, const std::string&
 }
 
 void reportFileErrno(UserInterface& ui, int errorNumber, const std::string& path) {
-  reportFileError(ui, fileErrorCauseFromErrno(errorNumber), path);
+  ui.report(fileErrnoMessage(errorNumber, path));
+}
+
+std::string fileErrnoMessage(int errorNumber, const std::string& path) {
+  return errorMessage(messageOfCause(fileErrorCauseFromErrno(errorNumber)), path);
 }
 
 }  // namespace plovix

@@ -40,4 +40,7 @@ void reportFileError(UserInterface& ui, FileErrorCause cause, const std::string&
 // The same with the cause taken from an errno value.
 void reportFileErrno(UserInterface& ui, int errorNumber, const std::string& path);
 
+// The text reportFileErrno shows.
+std::string fileErrnoMessage(int errorNumber, const std::string& path);
+
 }  // namespace plovix

@@ -2,6 +2,10 @@
 // copy handed to the host.
 #include "entry/GenerateVariation.h"
 
+#include <functional>
+#include <vector>
+
+#include "base/Messages.h"
 #include "base/OutputKinds.h"
 #include "base/PathText.h"
 #include "base/TextHelpers.h"
@@ -21,36 +25,61 @@ bool confirmOverwrite(UserInterface& ui, const ManagerApp& app, bool companions,
   return question.empty() || ui.ask(question);
 }
 
+// A file written after the overwrite question, and the step that writes it.
+struct LaterFile {
+  std::string path;
+  std::function<void()> write;
+};
+
+// Writes the files once the overwrite question was answered with OK; otherwise records each as declined.
+void writeLaterFiles(UserInterface& ui, ManagerApp& app, bool companions, bool symbol,
+                     const std::vector<LaterFile>& files) {
+  if (confirmOverwrite(ui, app, companions, symbol)) {
+    for (const LaterFile& file : files) file.write();
+    return;
+  }
+  const std::string reason(errorText(Msg::kOverwriteDeclined));
+  for (const LaterFile& file : files) app.run.outcome.notWritten.push_back({file.path, reason});
+}
+
 // The design file of the output language, then, once confirmed, the companions, symbol and templates.
 void writeDesignSet(ManagerApp& app, UserInterface& ui, ThdlFileWriter& thdl, const std::string& basePath,
                     bool writeSymbol) {
   ManagerRun& run = app.run;
   CnxDescription& description = *run.description;
-  const std::string& extension = run.extension;
   VhdlFileWriter vhdl(ui, basePath, run.modulonName, description);
   VerilogFileWriter verilog(ui, basePath, run.modulonName, description);
   HdlFileWriter* const writers[] = {&thdl, &vhdl, &verilog};
+  for (HdlFileWriter* writer : writers) writer->recordWritesIn(run.outcome);
   for (HdlFileWriter* writer : writers) {
-    if (writer->designExtension() == extension) writer->writeDesignFile();
+    if (writer->designExtension() == run.extension) writer->writeDesignFile();
   }
 
-  if (!confirmOverwrite(ui, app, true, writeSymbol)) return;
-  thdl.writeCompanionFile();
-  if (!description.uses2D) vhdl.writeCompanionFile();
-  if (writeSymbol) thdl.writeSymbolFile();
-  if (extension == thdl.designExtension()) {
-    thdl.writeInstanceFile();
-  } else if (extension == vhdl.designExtension()) {
-    vhdl.writeInstanceFile();
-  } else if (extension == verilog.designExtension()) {
-    verilog.writeBlackBoxFile();
-    verilog.writeInstanceFile();
+  std::vector<LaterFile> files;
+  files.push_back({thdl.companionPath(), [&] { thdl.writeCompanionFile(); }});
+  if (!description.uses2D) files.push_back({vhdl.companionPath(), [&] { vhdl.writeCompanionFile(); }});
+  if (writeSymbol) files.push_back({thdl.symbolPath(), [&] { thdl.writeSymbolFile(); }});
+  if (const OutputKind* kind = outputKindOfExtension(run.extension)) {
+    switch (kind->language) {
+      case OutputLanguage::kThdl:
+        files.push_back({thdl.instancePath(), [&] { thdl.writeInstanceFile(); }});
+        break;
+      case OutputLanguage::kVhdl:
+        files.push_back({vhdl.instancePath(), [&] { vhdl.writeInstanceFile(); }});
+        break;
+      case OutputLanguage::kVerilog:
+        files.push_back({verilog.blackBoxPath(), [&] { verilog.writeBlackBoxFile(); }});
+        files.push_back({verilog.instancePath(), [&] { verilog.writeInstanceFile(); }});
+        break;
+    }
   }
+  writeLaterFiles(ui, app, true, writeSymbol, files);
 }
 
 // A description that asks for the symbol alone.
 void writeSymbolOnly(ManagerApp& app, UserInterface& ui, ThdlFileWriter& thdl) {
-  if (confirmOverwrite(ui, app, false, true)) thdl.writeSymbolFile();
+  thdl.recordWritesIn(app.run.outcome);
+  writeLaterFiles(ui, app, false, true, {{thdl.symbolPath(), [&] { thdl.writeSymbolFile(); }}});
 }
 
 // The design text in the modulon's native language, when the catalog names one, handed to the host.
@@ -74,7 +103,8 @@ void writeNativeCopy(ManagerApp& app, UserInterface& ui, const std::string& base
   }
   const std::string path = basePath + "_enc" + std::string(kind->designExtension);
   run.encPath = path;
-  cpt_zpip_write_file(path.c_str(), text.c_str(), 0, 0);
+  const bool written = cpt_zpip_write_file(path.c_str(), text.c_str(), 0, 0) != 0;
+  run.outcome.recordWrite(path, written, std::string(errorText(Msg::kNotWrittenByHost)));
 }
 
 }  // namespace
@@ -95,6 +125,7 @@ bool generateVariationFiles(ManagerApp& app, UserInterface& ui, const std::strin
 
   const bool goOn = confirmSameNameFiles(ui, run, app.projectDirectory);
   if (goOn) {
+    run.outcome.generated = true;
     ThdlFileWriter thdl(ui, basePath, run.modulonName, *run.description);
     if (writeDesign) {
       writeDesignSet(app, ui, thdl, basePath, writeSymbol);

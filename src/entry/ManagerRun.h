@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "base/RunOutcome.h"
 #include "catalog/WizardCatalog.h"
 #include "cnx/CnxDescription.h"
 
@@ -33,6 +34,8 @@ struct ManagerRun {
   int32_t state = kStateActionPage;
   std::unique_ptr<CnxDescription> description;
   std::unique_ptr<WizardCatalog> catalog;
+  // What the run wrote; reset when a run starts and kept after it ends.
+  RunOutcome outcome;
 
   std::string outputPath() const { return directory + fileTitle + extension; }
   std::string cnxPath() const { return directory + fileTitle + ".cnx"; }

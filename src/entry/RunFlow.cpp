@@ -14,6 +14,7 @@ namespace plovix {
 void runManager(ManagerApp& app, UserInterface& ui, RunSteps& steps, const char* fileName,
                 const char* extraArguments) {
   ManagerRun& run = app.run;
+  run.outcome = RunOutcome{};
   run.directLaunch = false;
   run.newFile = true;
   run.editMode = false;

@@ -43,9 +43,10 @@ HdlFileWriter::HdlFileWriter(UserInterface& ui, std::string basePath, std::strin
 
 bool HdlFileWriter::writeFile(const std::string& path, const std::string& text) {
   int errorNumber = 0;
-  if (writeTextFile(path, text, errorNumber)) return true;
-  reportFileErrno(ui_, errorNumber, path);
-  return false;
+  const bool written = writeTextFile(path, text, errorNumber);
+  if (!written) reportFileErrno(ui_, errorNumber, path);
+  if (outcome_ != nullptr) outcome_->recordWrite(path, written, fileErrnoMessage(errorNumber, path));
+  return written;
 }
 
 // The design text and the retrieval-info block go to the file in one write. The block's own failures are
@@ -62,16 +63,19 @@ bool HdlFileWriter::writeDesignFile() {
 }
 
 bool HdlFileWriter::writeCompanionFile() {
-  return writeFile(basePath_ + companionExtension_, buildCompanionText());
+  return writeFile(companionPath(), buildCompanionText());
 }
 
 bool HdlFileWriter::writeSymbolFile() {
   SymbolBuilder builder(ui_, basePath_, description_);
-  return builder.buildSymbol();
+  const bool written = builder.buildSymbol();
+  if (outcome_ != nullptr)
+    outcome_->recordWrite(symbolPath(), written, std::string(errorText(Msg::kNotWrittenByHost)));
+  return written;
 }
 
 bool HdlFileWriter::writeInstanceFile() {
-  return writeFile(basePath_ + "_inst" + designExtension_, buildInstanceText());
+  return writeFile(instancePath(), buildInstanceText());
 }
 
 std::string HdlFileWriter::designText() {

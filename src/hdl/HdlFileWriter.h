@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/RunOutcome.h"
 #include "base/UserInterface.h"
 #include "cnx/CnxDescription.h"
 #include "hdl/NetlistRecords.h"
@@ -25,7 +26,7 @@ class HdlFileWriter {
   virtual bool writeDesignFile();
   // basePath + companionExtension: the companion text.
   virtual bool writeCompanionFile();
-  // The symbol, through the symbol builder.
+  // The symbol, through the symbol builder: whether the drawing library wrote it.
   virtual bool writeSymbolFile();
   // basePath + "_inst" + designExtension: the instantiation template.
   virtual bool writeInstanceFile();
@@ -43,6 +44,12 @@ class HdlFileWriter {
   const std::string& commentLeader() const { return commentLeader_; }
   const std::string& designExtension() const { return designExtension_; }
   const std::string& companionExtension() const { return companionExtension_; }
+  std::string companionPath() const { return basePath_ + companionExtension_; }
+  std::string symbolPath() const { return basePath_ + ".sym"; }
+  std::string instancePath() const { return basePath_ + "_inst" + designExtension_; }
+
+  // From now on every file this writer writes, or fails to write, is recorded in `outcome`.
+  void recordWritesIn(RunOutcome& outcome) { outcome_ = &outcome; }
 
   // The connection netlist (VHDL and Verilog texts): fills wires and connections from the description.
   void buildNetlist();
@@ -85,6 +92,7 @@ class HdlFileWriter {
   CnxDescription& description_;
   // Finds wires by source key for findWire without scanning the list.
   NetlistWireIndex wireIndex_;
+  RunOutcome* outcome_ = nullptr;
 };
 
 }  // namespace plovix

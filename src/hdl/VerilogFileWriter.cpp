@@ -39,7 +39,7 @@ std::string VerilogFileWriter::buildBlackBoxText() {
 }
 
 bool VerilogFileWriter::writeBlackBoxFile() {
-  return writeFile(basePath_ + "_bb" + designExtension_, buildBlackBoxText());
+  return writeFile(blackBoxPath(), buildBlackBoxText());
 }
 
 std::string verilogDirectionWord(const std::string& direction) {

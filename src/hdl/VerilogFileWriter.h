@@ -19,6 +19,7 @@ class VerilogFileWriter : public HdlFileWriter {
 
   // basePath + "_bb" + designExtension: the module's ports and parameters with an empty body.
   bool writeBlackBoxFile();
+  std::string blackBoxPath() const { return basePath_ + "_bb" + designExtension_; }
   std::string buildBlackBoxText();
 
  private:

@@ -34,7 +34,7 @@ std::string parameterTextOf(const CnxDescription& description) {
 
 // The ports' pins go in as inputs first, then outputs, each list in its order; the main module's own ports
 // are not pins of the variation.
-void SymbolBuilder::buildAutomaticSymbol(const std::string& fileName) {
+bool SymbolBuilder::buildAutomaticSymbol(const std::string& fileName) {
   gio_error_context error{};
   const short made = gio_sym_auto_gen_begin(&error, fileName.c_str(), 0);
   keepInstance(made, error.code);
@@ -42,7 +42,7 @@ void SymbolBuilder::buildAutomaticSymbol(const std::string& fileName) {
     for (const CnxUsedPort& port : *ports)
       gio_sym_add_pin_stub_w_alt_text(port.tag.c_str(), pinNameOf(port).c_str(), pinTypeCode(port.direction),
                                       instance_);
-  gio_sym_auto_gen_sym_w_params_w_alt_text(instance_, parameterTextOf(description_).c_str());
+  return gio_sym_auto_gen_sym_w_params_w_alt_text(instance_, parameterTextOf(description_).c_str()) != 0;
 }
 
 }  // namespace plovix

@@ -5,7 +5,7 @@
 
 namespace plovix {
 
-void SymbolBuilder::buildDrawnSymbol(const std::string& fileName) {
+bool SymbolBuilder::buildDrawnSymbol(const std::string& fileName) {
   gio_error_context error{};
   const short made = gio_db_create_instance(1, &error, 0);
   keepInstance(made, error.code);
@@ -18,8 +18,9 @@ void SymbolBuilder::buildDrawnSymbol(const std::string& fileName) {
   gio_db_set_command_status(instance_, 0);
   gio_db_set_unit_mode(instance_, 1);
   for (const SymbolElement& element : description_.symbolElements) drawElement(element);
-  gio_write_drawing(instance_);
+  const bool written = gio_write_drawing(instance_) != 0;
   gio_db_delete_instance(instance_, 0);
+  return written;
 }
 
 void SymbolBuilder::drawElement(const SymbolElement& element) {

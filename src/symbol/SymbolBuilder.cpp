@@ -10,11 +10,7 @@ SymbolBuilder::SymbolBuilder(UserInterface& ui, std::string basePath, const CnxD
 
 bool SymbolBuilder::buildSymbol() {
   const std::string fileName = basePath_ + ".sym";
-  if (description_.defaultSymbolBox)
-    buildAutomaticSymbol(fileName);
-  else
-    buildDrawnSymbol(fileName);
-  return true;
+  return description_.defaultSymbolBox ? buildAutomaticSymbol(fileName) : buildDrawnSymbol(fileName);
 }
 
 void SymbolBuilder::keepInstance(short made, int errorCode) {

@@ -14,13 +14,13 @@ class SymbolBuilder {
   // ".sym".
   SymbolBuilder(UserInterface& ui, std::string basePath, const CnxDescription& description);
 
-  // Builds the symbol through the drawing library, which writes the file. The drawing library's failures are
-  // not shown to the user, so this is always true.
+  // Builds the symbol through the drawing library, which writes the file; whether the library reports the
+  // file written. The drawing library's failures are not shown to the user.
   bool buildSymbol();
 
  private:
-  void buildAutomaticSymbol(const std::string& fileName);
-  void buildDrawnSymbol(const std::string& fileName);
+  bool buildAutomaticSymbol(const std::string& fileName);
+  bool buildDrawnSymbol(const std::string& fileName);
   // Keeps a newly made instance unless the drawing library reported an error while making it.
   void keepInstance(short made, int errorCode);
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -12,6 +13,7 @@
 #include "RecordingInterface.h"
 #include "TempDir.h"
 #include "base/FileSystem.h"
+#include "base/QuestionTexts.h"
 #include "base/TextFile.h"
 #include "entry/ConflictChecks.h"
 #include "entry/GenerateVariation.h"
@@ -21,7 +23,9 @@
 namespace plovix {
 namespace {
 
+using plovix::testing::asked;
 using plovix::testing::RecordingInterface;
+using plovix::testing::reported;
 using plovix::testing::TempDir;
 
 class Generation : public ::testing::Test {
@@ -50,6 +54,7 @@ class Generation : public ::testing::Test {
   }
 
   bool generate(bool writeDesign = true, bool writeSymbol = true) {
+    app.run.outcome = RunOutcome{};
     return generateVariationFiles(app, ui, app.run.outputPath(), writeDesign, writeSymbol);
   }
 
@@ -65,6 +70,23 @@ class Generation : public ::testing::Test {
   }
 
   using Names = std::vector<std::string>;
+
+  // The run's written and not-written files, named relative to the output directory.
+  Names written() const {
+    Names names;
+    for (const std::string& path : app.run.outcome.written) names.push_back(relative(path));
+    return names;
+  }
+  Names notWritten() const {
+    Names names;
+    for (const RunOutcome::NotWritten& file : app.run.outcome.notWritten)
+      names.push_back(relative(file.path));
+    return names;
+  }
+  std::string relative(const std::string& path) const {
+    return path.starts_with(dir.dir()) ? path.substr(dir.dir().size()) : path;
+  }
+
   TempDir dir;
   ManagerApp app;
   RecordingInterface ui;
@@ -75,14 +97,15 @@ const std::string kNativeVhdlCatalog =
     "[old]\nlpm_counter = old.sh\n<INFO>\n<NATIVE_HDL NAME=\"VERILOG\"></NATIVE_HDL>\n</INFO>\n"
     "[counters]\nlpm_counter = counter.sh\n<INFO>\n<NATIVE_HDL NAME=\" VHDL \"></NATIVE_HDL>\n</INFO>\n";
 
+// Every file is written and recorded, in the fixed order.
 TEST_F(Generation, FileSetOfEachLanguage) {
   const struct {
     const char* output;
-    Names expected;
+    Names expected;  // in the order of writing
   } cases[] = {
-      {"count8.tdf", {"count8.cmp", "count8.inc", "count8.sym", "count8.tdf", "count8_inst.tdf"}},
-      {"count8.vhd", {"count8.cmp", "count8.inc", "count8.sym", "count8.vhd", "count8_inst.vhd"}},
-      {"count8.v", {"count8.cmp", "count8.inc", "count8.sym", "count8.v", "count8_bb.v", "count8_inst.v"}},
+      {"count8.tdf", {"count8.tdf", "count8.inc", "count8.cmp", "count8.sym", "count8_inst.tdf"}},
+      {"count8.vhd", {"count8.vhd", "count8.inc", "count8.cmp", "count8.sym", "count8_inst.vhd"}},
+      {"count8.v", {"count8.v", "count8.inc", "count8.cmp", "count8.sym", "count8_bb.v", "count8_inst.v"}},
   };
   for (const auto& c : cases) {
     for (const std::string& name : files()) std::filesystem::remove(dir.path(name));
@@ -90,13 +113,18 @@ TEST_F(Generation, FileSetOfEachLanguage) {
     ui.boxes.clear();
     prepare(c.output);
     EXPECT_TRUE(generate());
-    EXPECT_EQ(files(), c.expected) << c.output;
+    EXPECT_EQ(written(), c.expected) << c.output;
+    Names sorted = c.expected;
+    std::sort(sorted.begin(), sorted.end());
+    EXPECT_EQ(files(), sorted) << c.output;
+    EXPECT_EQ(app.run.outcome.exitStatus(), RunOutcome::kEveryFileWritten);
     EXPECT_TRUE(ui.boxes.empty()) << ui.boxes.front();
     EXPECT_TRUE(app.run.encPath.empty());
   }
 }
 
-// When every write fails (the output directory is missing), each file is still attempted, in order.
+// When every write fails (the output directory is missing), each file is still attempted, in order, and
+// recorded as not written with the message the user saw.
 TEST_F(Generation, FilesAreAttemptedInOrder) {
   for (const char* extension : {".tdf", ".v"}) {
     ui.boxes.clear();
@@ -104,22 +132,25 @@ TEST_F(Generation, FilesAreAttemptedInOrder) {
     app.run.directory = dir.path("missing/");
     app.run.description->setCnxPath(dir.path("count8.cnx"));
     generate();
-    const std::string base = "report: File " + dir.path("missing/count8");
-    const std::string tail = " could not be opened";
-    Names expected = {base + extension + tail, base + ".inc" + tail, base + ".cmp" + tail};
-    Names opened;
-    for (const std::string& box : ui.boxes) {
-      if (box.ends_with(tail)) opened.push_back(box);
-    }
+    Names expected = {"missing/count8" + std::string(extension), "missing/count8.inc", "missing/count8.cmp",
+                      "missing/count8.sym"};
     if (std::string(extension) == ".tdf") {
-      expected.push_back(base + "_inst.tdf" + tail);
+      expected.push_back("missing/count8_inst.tdf");
     } else {
-      expected.push_back(base + "_bb.v" + tail);
-      expected.push_back(base + "_inst.v" + tail);
+      expected.push_back("missing/count8_bb.v");
+      expected.push_back("missing/count8_inst.v");
     }
-    // The symbol's own failure may be reported differently; it stands between the companions and templates.
-    if (opened.size() == expected.size() + 1) opened.erase(opened.begin() + 3);
-    EXPECT_EQ(opened, expected);
+    EXPECT_EQ(notWritten(), expected);
+    EXPECT_TRUE(written().empty());
+    EXPECT_EQ(app.run.outcome.exitStatus(), RunOutcome::kSomeFileNotWritten);
+    Names reports;
+    for (const RunOutcome::NotWritten& file : app.run.outcome.notWritten) {
+      const bool symbol = file.path.ends_with(".sym");
+      EXPECT_EQ(file.reason, symbol ? std::string(errorText(Msg::kNotWrittenByHost))
+                                    : errorMessage(Msg::kFileNotOpened, file.path));
+      if (!symbol) reports.push_back("report: " + file.reason);
+    }
+    EXPECT_EQ(ui.boxes, reports);
     std::filesystem::remove(dir.path("count8.cnx"));
   }
 }
@@ -131,8 +162,12 @@ TEST_F(Generation, CancelledOverwriteKeepsOnlyTheDesignFileAndNativeCopy) {
   EXPECT_TRUE(generate());
   EXPECT_EQ(files(), (Names{"count8.inc", "count8.v", "count8_enc.vhd"}));
   EXPECT_EQ(dir.read("count8.inc"), "old include");
-  ASSERT_EQ(ui.boxes.size(), 1u);
-  EXPECT_TRUE(ui.boxes[0].starts_with("question: The following file(s) already exist:\n\n  ")) << ui.boxes[0];
+  EXPECT_EQ(ui.boxes, Names{asked(listExistingOutputs(app.run, app.projectDirectory, true, true), false)});
+  EXPECT_EQ(written(), (Names{"count8.v", "count8_enc.vhd"}));
+  EXPECT_EQ(notWritten(), (Names{"count8.inc", "count8.cmp", "count8.sym", "count8_bb.v", "count8_inst.v"}));
+  for (const RunOutcome::NotWritten& file : app.run.outcome.notWritten)
+    EXPECT_EQ(file.reason, errorText(Msg::kOverwriteDeclined));
+  EXPECT_EQ(app.run.outcome.exitStatus(), RunOutcome::kSomeFileNotWritten);
 }
 
 TEST_F(Generation, NativeCopyGoesThroughTheHostLibrary) {
@@ -153,8 +188,9 @@ TEST_F(Generation, SameNameStopWritesOnlyTheNativeCopy) {
   EXPECT_FALSE(generate());
   EXPECT_EQ(files(), (Names{"count8.vhd", "count8_enc.vhd"}));
   EXPECT_EQ(dir.read("count8.vhd"), "someone else's design");
-  ASSERT_EQ(ui.boxes.size(), 1u);
-  EXPECT_NE(ui.boxes[0].find("already exists in the working directory:\n\ncount8.vhd\n"), std::string::npos);
+  EXPECT_EQ(ui.boxes, Names{asked(questions::sameNameFiles(1, "count8.vhd\n"), false)});
+  EXPECT_EQ(written(), Names{"count8_enc.vhd"});
+  EXPECT_EQ(app.run.outcome.exitStatus(), RunOutcome::kNotGenerated);
 }
 
 TEST_F(Generation, TwoDimensionalPortsRefusedWriteNothing) {
@@ -164,10 +200,8 @@ TEST_F(Generation, TwoDimensionalPortsRefusedWriteNothing) {
   EXPECT_TRUE(generate());
   EXPECT_TRUE(files().empty());
   EXPECT_EQ(app.run.extension, ".tdf");
-  ASSERT_EQ(ui.boxes.size(), 1u);
-  EXPECT_EQ(ui.boxes[0],
-            "question: Modulon requires two-dimensional ports which are not currently supported in VHDL or "
-            "Verilog HDL.\n\nDo you want to create an THDL version of the modulon instead? => Cancel");
+  EXPECT_EQ(ui.boxes, Names{asked(questions::thdlFallback(), false)});
+  EXPECT_EQ(app.run.outcome.exitStatus(), RunOutcome::kNotGenerated);
 }
 
 const std::string kWarningRules =
@@ -231,8 +265,7 @@ TEST_F(Generation, TwoDimensionalPortsAcceptedAsThdl) {
   EXPECT_TRUE(generate());
   EXPECT_EQ(app.run.extension, ".tdf");
   EXPECT_EQ(files(), (Names{"mux.inc", "mux.sym", "mux.tdf", "mux_inst.tdf"}));
-  ASSERT_EQ(ui.boxes.size(), 1u);
-  EXPECT_TRUE(ui.boxes[0].ends_with("create an THDL version of the modulon instead? => OK"));
+  EXPECT_EQ(ui.boxes, Names{asked(questions::thdlFallback())});
   EXPECT_EQ(dir.read("mux.tdf"),
             toTextMode(
                 "-- modulon wizard: %lpm_counter%\n"
@@ -290,9 +323,8 @@ TEST_F(Generation, SymbolOnlyWritesTheSymbol) {
   dir.write("count8.sym", "old symbol");
   EXPECT_TRUE(generate(false, true));
   EXPECT_EQ(dir.read("count8.sym"), "old symbol");
-  ASSERT_EQ(ui.boxes.size(), 1u);
-  EXPECT_EQ(ui.boxes[0].find(".inc"), std::string::npos);
-  EXPECT_NE(ui.boxes[0].find("count8.sym\n\nNote:"), std::string::npos);
+  EXPECT_EQ(ui.boxes, Names{asked(listExistingOutputs(app.run, app.projectDirectory, false, true), false)});
+  EXPECT_EQ(notWritten(), Names{"count8.sym"});
 }
 
 // A file that cannot be written is reported and the files after it are still written. Without write
@@ -305,8 +337,10 @@ TEST_F(Generation, FailedFileDoesNotStopTheOthers) {
     EXPECT_TRUE(generate());
     std::filesystem::permissions(dir.dir(), std::filesystem::perms::owner_all);
     size_t denied = 0;
-    for (const std::string& box : ui.boxes) denied += box.starts_with("report: Access denied to file ");
-    EXPECT_GE(denied, 4u);  // design, include, component declaration, template (and perhaps the symbol)
+    for (const RunOutcome::NotWritten& file : app.run.outcome.notWritten)
+      denied += file.reason == errorMessage(Msg::kAccessDenied, file.path);
+    EXPECT_EQ(denied, 4u);  // design, include, component declaration, template; the symbol has its own reason
+    EXPECT_EQ(notWritten().size(), 5u);
     EXPECT_TRUE(files().empty());
     return;
   }
@@ -315,7 +349,9 @@ TEST_F(Generation, FailedFileDoesNotStopTheOthers) {
   EXPECT_EQ(files(), (Names{"count8.cmp", "count8.inc", "count8.sym", "count8.vhd", "count8_inst.vhd"}));
   EXPECT_TRUE(std::filesystem::is_directory(dir.path("count8.inc")));
   ASSERT_EQ(ui.boxes.size(), 2u);  // the overwrite question lists the blocked name, then the failure
-  EXPECT_EQ(ui.boxes[1], "report: Unknown file error encountered");
+  EXPECT_EQ(ui.boxes[1], reported(Msg::kUnknownFileError));
+  EXPECT_EQ(notWritten(), Names{"count8.inc"});
+  EXPECT_EQ(written(), (Names{"count8.vhd", "count8.cmp", "count8.sym", "count8_inst.vhd"}));
 }
 
 }  // namespace

@@ -91,7 +91,7 @@ TEST(AutomaticSymbol, ErrorWhileStartingLeavesNoInstanceAndNoFile) {
   testing::GioTraceCapture trace;
   testing::RecordingInterface ui;
   const CnxDescription d = registerDescription();
-  EXPECT_TRUE(SymbolBuilder(ui, trace.dir() + "missing/reg8", d).buildSymbol());
+  EXPECT_FALSE(SymbolBuilder(ui, trace.dir() + "missing/reg8", d).buildSymbol());
   const Lines lines = trace.take();
   ASSERT_EQ(lines.size(), 5u);
   EXPECT_EQ(lines[1], "gio_db_delete_instance(1, 0) -> 1");

@@ -128,14 +128,17 @@ TEST_F(PluginRunTest, ExitCodesDriveTheRun) {
     const char* codes;
     int plovixStatus;
     const char* starts;
+    const char* answer = "ok";
   };
   // 0 finishes; 1, 2 and death by a signal cancel; 3 and 255 go back to the page (the modulon page after a
-  // direct launch), whose Next starts the plug-in again.
+  // direct launch), whose Next starts the plug-in again. Declining to overwrite the companion files leaves
+  // the variation generated with files not written: status 3.
   for (const Case& c : {Case{"0", 0, "1"}, Case{"1", 1, "1"}, Case{"2", 1, "1"}, Case{"kill", 1, "1"},
-                        Case{"3\n1", 1, "2"}, Case{"255\n0", 0, "2"}}) {
+                        Case{"3\n1", 1, "2"}, Case{"255\n0", 0, "2"}, Case{"0", 3, "1", "cancel"}}) {
     lib.write("count", "0\n");
     lib.write("codes", std::string(c.codes) + "\n");
-    const PlovixResult result = run({"--modulon", "REC", "--language", "thdl", variation()});
+    const PlovixResult result =
+        run({"--answer", c.answer, "--modulon", "REC", "--language", "thdl", variation()});
     EXPECT_TRUE(result.exited(c.plovixStatus)) << c.codes << ": " << result.err;
     EXPECT_EQ(starts(), std::string(c.starts) + "\n") << c.codes;
     if (std::string(c.starts) == "2") {
