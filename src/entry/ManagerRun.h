@@ -12,12 +12,12 @@
 namespace plovix {
 
 // States of the run's loop.
-enum RunState : int32_t {
-  kStateActionPage = 1,
-  kStateModulonPage = 2,
-  kStateBrowserPage = 3,
-  kStateLaunch = 4,
-  kStateGenerate = 5,
+enum class RunState : int32_t {
+  kActionPage = 1,
+  kModulonPage = 2,
+  kBrowserPage = 3,
+  kLaunch = 4,
+  kGenerate = 5,
 };
 
 struct ManagerRun {
@@ -31,7 +31,7 @@ struct ManagerRun {
   bool newFile = true;
   bool directLaunch = false;
   int32_t pluginResult = 1;
-  int32_t state = kStateActionPage;
+  RunState state = RunState::kActionPage;
   std::unique_ptr<CnxDescription> description;
   std::unique_ptr<WizardCatalog> catalog;
   // What the run wrote; reset when a run starts and kept after it ends.

@@ -41,7 +41,7 @@ bool chooseFirstState(ManagerApp& app, UserInterface& ui, const char* fileName) 
   ManagerRun& run = app.run;
   const std::string argument = fileName == nullptr ? std::string() : std::string(fileName);
   if (trimRight(argument).empty()) {
-    run.state = kStateActionPage;
+    run.state = RunState::kActionPage;
     return true;
   }
   run.fileTitle = splitPath(argument, PathPart::kBaseName);
@@ -50,21 +50,21 @@ bool chooseFirstState(ManagerApp& app, UserInterface& ui, const char* fileName) 
 
   if (run.extension.empty()) {
     if (!ui.ask(questions::noExtension())) return false;
-    run.state = kStateBrowserPage;
+    run.state = RunState::kBrowserPage;
     return true;
   }
   if (!isOutputExtension(run.extension)) {
     if (!ui.ask(questions::illegalExtension(run.extension))) return false;
-    run.state = kStateBrowserPage;
+    run.state = RunState::kBrowserPage;
     return true;
   }
   if (argument.find_first_of("*?") != std::string::npos) {
-    run.state = kStateBrowserPage;
+    run.state = RunState::kBrowserPage;
     return true;
   }
   if (!fileExists(argument)) {
     if (!ui.ask(questions::fileDoesNotExistCreate(argument))) return false;
-    run.state = kStateModulonPage;
+    run.state = RunState::kModulonPage;
     return true;
   }
   const std::string nameRead = readModulonNameOfFile(argument);
@@ -73,17 +73,17 @@ bool chooseFirstState(ManagerApp& app, UserInterface& ui, const char* fileName) 
     if (!run.catalog->findCommandLine(run.modulonName).empty()) {
       run.directLaunch = true;
       run.newFile = false;
-      run.state = kStateLaunch;
+      run.state = RunState::kLaunch;
     } else {
       reportError(ui, Msg::kModulonNotListed, run.modulonName);
       run.newFile = false;
-      run.state = kStateBrowserPage;
+      run.state = RunState::kBrowserPage;
     }
     return true;
   }
   if (!ui.ask(questions::notWizardGenerated(argument))) return false;
   run.newFile = false;
-  run.state = kStateBrowserPage;
+  run.state = RunState::kBrowserPage;
   return true;
 }
 
@@ -115,94 +115,94 @@ void runPages(ManagerApp& app, RunSteps& steps) {
   bool rememberedCreate = false;
   run.pluginResult = 1;
 
-  int loopResult = kPageNext;
-  while (loopResult != 0 && loopResult != kPageCancel) {
+  PageResult loopResult = PageResult::kNext;
+  while (loopResult != PageResult::kFinish && loopResult != PageResult::kCancel) {
     switch (run.state) {
-      case kStateActionPage: {
+      case RunState::kActionPage: {
         actionPage.setCaption(std::string(kManagerName) + " [page 1]");
-        actionPage.pageKind = 0;
+        actionPage.pageKind = PageKind::kFirst;
         loopResult = steps.showActionPage(run, actionPage);
-        if (loopResult == kPageNext) {
+        if (loopResult == PageResult::kNext) {
           if (actionPage.createNew != rememberedCreate) {
             run.fileTitle.clear();
             run.extension.clear();
             run.directory = app.projectDirectory;
             run.modulonName.clear();
           }
-          run.state = actionPage.createNew ? kStateModulonPage : kStateBrowserPage;
+          run.state = actionPage.createNew ? RunState::kModulonPage : RunState::kBrowserPage;
           rememberedCreate = actionPage.createNew;
         }
         break;
       }
-      case kStateModulonPage: {
+      case RunState::kModulonPage: {
         const std::string oldCnxPath = run.cnxPath();
         modulonPage.setCaption(std::string(kManagerName) + " [page 2a]");
-        modulonPage.pageKind = 2;
+        modulonPage.pageKind = PageKind::kMiddle;
         loopResult = steps.showModulonPage(run, modulonPage);
         run.fileTitle = modulonPage.baseName;
         run.extension = modulonPage.extension;
         run.directory = modulonPage.directory;
         run.modulonName = modulonPage.modulonName;
         run.newFile = true;
-        if (loopResult == kPageNext) {
+        if (loopResult == PageResult::kNext) {
           dropStaleCnxFiles(oldCnxPath, run.cnxPath());
-          run.state = kStateLaunch;
+          run.state = RunState::kLaunch;
         } else {
-          run.state = kStateActionPage;
+          run.state = RunState::kActionPage;
         }
         run.editMode = false;
         break;
       }
-      case kStateBrowserPage: {
+      case RunState::kBrowserPage: {
         browserPage.directory = run.directory;
         browserPage.baseName = run.fileTitle;
         browserPage.extension = run.extension;
         browserPage.modulonName = run.modulonName;
         const std::string oldCnxPath = run.cnxPath();
-        browserPage.pageKind = 2;
+        browserPage.pageKind = PageKind::kMiddle;
         loopResult = steps.showBrowserPage(run, browserPage);
         run.directory = browserPage.directory;
         run.fileTitle = browserPage.baseName;
         run.extension = browserPage.extension;
         run.modulonName = browserPage.modulonName;
         run.newFile = browserPage.newVariation;
-        if (loopResult == kPageNext) {
+        if (loopResult == PageResult::kNext) {
           dropStaleCnxFiles(oldCnxPath, run.cnxPath());
-          run.state = kStateLaunch;
-        } else if (loopResult == kPageBack) {
-          run.state = kStateActionPage;
+          run.state = RunState::kLaunch;
+        } else if (loopResult == PageResult::kBack) {
+          run.state = RunState::kActionPage;
         }
         run.editMode = true;
         break;
       }
-      case kStateLaunch: {
+      case RunState::kLaunch: {
         if (!run.newFile) {
           const std::string cnxPath = run.cnxPath();
           const bool prepared = fileExists(cnxPath) ? steps.stripGenerationLine(run, cnxPath)
                                                     : steps.extractRetrievalInfo(run, run.outputPath());
           if (!prepared) {
-            loopResult = kPageCancel;
+            loopResult = PageResult::kCancel;
             break;
           }
         }
         run.modulonName = run.catalog->resolveAlias(run.modulonName);
         const LaunchResult launch = steps.launchPlugin(run);
         if (!launch.started) {
-          loopResult = kPageBack;
-          run.state = run.editMode ? kStateBrowserPage : kStateModulonPage;
+          loopResult = PageResult::kBack;
+          run.state = run.editMode ? RunState::kBrowserPage : RunState::kModulonPage;
           break;
         }
         run.pluginResult = pluginResultOf(launch.exitCode);
         if (run.pluginResult == 0) {
-          run.state = kStateGenerate;
+          run.state = RunState::kGenerate;
         } else if (run.pluginResult == -1) {
-          run.state = run.editMode ? kStateBrowserPage : kStateModulonPage;
+          run.state = run.editMode ? RunState::kBrowserPage : RunState::kModulonPage;
         } else {
-          loopResult = kPageCancel;
+          loopResult = PageResult::kCancel;
         }
         break;
       }
-      case kStateGenerate: {
+      case RunState::kGenerate: {
         run.description->setCnxPath(run.cnxPath());
         if (steps.readDescription(run)) {
           run.fileTitle = steps.resolveSubComponentClash(run);
@@ -215,11 +215,11 @@ void runPages(ManagerApp& app, RunSteps& steps) {
           steps.deleteWorkFiles(run);
           steps.offerVendorScript(run);
         }
-        loopResult = 0;
+        loopResult = PageResult::kFinish;
         break;
       }
       default:
-        loopResult = kPageCancel;
+        loopResult = PageResult::kCancel;
         break;
     }
   }

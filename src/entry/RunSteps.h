@@ -24,9 +24,9 @@ class RunSteps {
   virtual void loadCatalog(ManagerRun& run) = 0;
 
   // Show a page modally and give its result.
-  virtual int showActionPage(ManagerRun& run, ActionPage& page) = 0;
-  virtual int showModulonPage(ManagerRun& run, ModulonSelectionPage& page) = 0;
-  virtual int showBrowserPage(ManagerRun& run, VariationBrowserPage& page) = 0;
+  virtual PageResult showActionPage(ManagerRun& run, ActionPage& page) = 0;
+  virtual PageResult showModulonPage(ManagerRun& run, ModulonSelectionPage& page) = 0;
+  virtual PageResult showBrowserPage(ManagerRun& run, VariationBrowserPage& page) = 0;
 
   // Edit mode: prepare the CNX file the plug-in starts from.
   virtual bool stripGenerationLine(ManagerRun& run, const std::string& cnxPath) = 0;

@@ -16,17 +16,17 @@ void StandardRunSteps::loadCatalog(ManagerRun& run) {
   run.catalog->load(ui_);
 }
 
-int StandardRunSteps::showActionPage(ManagerRun& run, ActionPage& page) {
+PageResult StandardRunSteps::showActionPage(ManagerRun& run, ActionPage& page) {
   PageContext context = pageContext(run);
   return pages_.showActionPage(page, context);
 }
 
-int StandardRunSteps::showModulonPage(ManagerRun& run, ModulonSelectionPage& page) {
+PageResult StandardRunSteps::showModulonPage(ManagerRun& run, ModulonSelectionPage& page) {
   PageContext context = pageContext(run);
   return pages_.showModulonPage(page, context);
 }
 
-int StandardRunSteps::showBrowserPage(ManagerRun& run, VariationBrowserPage& page) {
+PageResult StandardRunSteps::showBrowserPage(ManagerRun& run, VariationBrowserPage& page) {
   PageContext context = pageContext(run);
   return pages_.showBrowserPage(page, context);
 }

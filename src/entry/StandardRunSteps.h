@@ -13,9 +13,9 @@ class StandardRunSteps : public RunSteps {
   StandardRunSteps(ManagerApp& app, UserInterface& ui, PageHost& pages) : app_(app), ui_(ui), pages_(pages) {}
 
   void loadCatalog(ManagerRun& run) override;
-  int showActionPage(ManagerRun& run, ActionPage& page) override;
-  int showModulonPage(ManagerRun& run, ModulonSelectionPage& page) override;
-  int showBrowserPage(ManagerRun& run, VariationBrowserPage& page) override;
+  PageResult showActionPage(ManagerRun& run, ActionPage& page) override;
+  PageResult showModulonPage(ManagerRun& run, ModulonSelectionPage& page) override;
+  PageResult showBrowserPage(ManagerRun& run, VariationBrowserPage& page) override;
   bool stripGenerationLine(ManagerRun& run, const std::string& cnxPath) override;
   bool extractRetrievalInfo(ManagerRun& run, const std::string& variationPath) override;
   LaunchResult launchPlugin(ManagerRun& run) override;

@@ -65,7 +65,7 @@ bool ModulonSelectionPage::pressBack(PageContext& context, const std::optional<P
   extension = checkedExtension();
   modulonName = tree.selectedText();
   storePosition(context.corner, window);
-  result = kPageBack;
+  result = PageResult::kBack;
   return true;
 }
 

@@ -29,9 +29,9 @@ class PageHost {
   virtual ~PageHost() = default;
 
   // Each shows its page modally and returns the page's result (also left in page.result).
-  virtual int showActionPage(ActionPage& page, PageContext& context) = 0;
-  virtual int showModulonPage(ModulonSelectionPage& page, PageContext& context) = 0;
-  virtual int showBrowserPage(VariationBrowserPage& page, PageContext& context) = 0;
+  virtual PageResult showActionPage(ActionPage& page, PageContext& context) = 0;
+  virtual PageResult showModulonPage(ModulonSelectionPage& page, PageContext& context) = 0;
+  virtual PageResult showBrowserPage(VariationBrowserPage& page, PageContext& context) = 0;
 };
 
 }  // namespace plovix

@@ -3,6 +3,6 @@
 
 namespace plovix {
 
-enum PageResult : int { kPageFinish = 0, kPageNext = 1, kPageBack = -1, kPageCancel = 2 };
+enum class PageResult : int { kFinish = 0, kNext = 1, kBack = -1, kCancel = 2 };
 
 }  // namespace plovix

@@ -234,7 +234,7 @@ bool VariationBrowserPage::pressBack(PageContext& context, const std::optional<P
   const std::string lookInPath = lookIn.selectedPath();
   if (!lookInPath.empty()) directory = lookInPath;
   storePosition(context.corner, window);
-  result = kPageBack;
+  result = PageResult::kBack;
   return true;
 }
 

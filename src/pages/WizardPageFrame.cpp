@@ -70,10 +70,10 @@ void WizardPageFrame::openFrame() {
   disabled_.clear();
   defaultButton_ = kControlNext;
   focusControl = 0;
-  if (pageKind == kFirstPage) {
+  if (pageKind == PageKind::kFirst) {
     enableControl(kControlBack, false);
     setDefaultButton(kControlNext);
-  } else if (pageKind == kLastPage) {
+  } else if (pageKind == PageKind::kLast) {
     enableControl(kControlNext, false);
     setDefaultButton(kControlFinish);
   }
@@ -95,7 +95,7 @@ bool WizardPageFrame::storePosition(WindowCorner& corner, const std::optional<Pi
   return true;
 }
 
-bool WizardPageFrame::acceptWith(int pageResult, PageContext& context,
+bool WizardPageFrame::acceptWith(PageResult pageResult, PageContext& context,
                                  const std::optional<PixelRect>& window) {
   if (!storePosition(context.corner, window) || !validatePage(context)) return false;
   result = pageResult;
@@ -103,19 +103,19 @@ bool WizardPageFrame::acceptWith(int pageResult, PageContext& context,
 }
 
 bool WizardPageFrame::pressBack(PageContext& context, const std::optional<PixelRect>& window) {
-  return acceptWith(kPageBack, context, window);
+  return acceptWith(PageResult::kBack, context, window);
 }
 
 bool WizardPageFrame::pressNext(PageContext& context, const std::optional<PixelRect>& window) {
-  return acceptWith(kPageNext, context, window);
+  return acceptWith(PageResult::kNext, context, window);
 }
 
 bool WizardPageFrame::pressFinish(PageContext& context, const std::optional<PixelRect>& window) {
-  return acceptWith(kPageFinish, context, window);
+  return acceptWith(PageResult::kFinish, context, window);
 }
 
 void WizardPageFrame::pressCancel() {
-  result = kPageCancel;
+  result = PageResult::kCancel;
 }
 
 }  // namespace plovix

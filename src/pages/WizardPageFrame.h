@@ -34,8 +34,9 @@ struct FrameControl {
   PixelRect rect;
 };
 
-// Page kinds the run sets before showing a page.
-enum PageKind : int { kFirstPage = 0, kMiddlePage = 2, kLastPage = 3 };
+// Page kinds the run sets before showing a page. The first page has no Back, the last no Next; the value a
+// page starts with changes nothing.
+enum class PageKind : int { kFirst = 0, kNotSet = 1, kMiddle = 2, kLast = 3 };
 
 class WizardPageFrame {
  public:
@@ -79,8 +80,8 @@ class WizardPageFrame {
   // Cancel, Escape and the close box: the position is not stored.
   virtual void pressCancel();
 
-  int pageKind = 1;  // 0 first page, 2 middle page, 3 last page
-  int result = kPageNext;
+  PageKind pageKind = PageKind::kNotSet;
+  PageResult result = PageResult::kNext;
   std::string caption;
   int ungrownWidth = 0;
   // The control a check wants the focus on after an event; 0 leaves the focus where it is.
@@ -92,7 +93,7 @@ class WizardPageFrame {
   // The page's check of its input; false keeps the page open.
   virtual bool validatePage(PageContext&) { return true; }
   // Stores the position, validates and closes with `pageResult`.
-  bool acceptWith(int pageResult, PageContext& context, const std::optional<PixelRect>& window);
+  bool acceptWith(PageResult pageResult, PageContext& context, const std::optional<PixelRect>& window);
 
  private:
   std::set<int> disabled_;

@@ -43,7 +43,7 @@ namespace {
 
 // A page that is still open after Next (a check failed and was reported) ends with Cancel, so that a batch
 // run never waits for input.
-int finishWithNext(WizardPageFrame& page, PageContext& context) {
+PageResult finishWithNext(WizardPageFrame& page, PageContext& context) {
   if (!page.pressNext(context, std::nullopt)) page.pressCancel();
   return page.result;
 }
@@ -60,7 +60,7 @@ bool BatchFrontEnd::shownBefore(const WizardPageFrame& page) {
   return !shown_.insert(&page).second;
 }
 
-int BatchFrontEnd::showActionPage(ActionPage& page, PageContext& context) {
+PageResult BatchFrontEnd::showActionPage(ActionPage& page, PageContext& context) {
   page.open();
   if (shownBefore(page)) {
     page.pressCancel();
@@ -70,7 +70,7 @@ int BatchFrontEnd::showActionPage(ActionPage& page, PageContext& context) {
   return finishWithNext(page, context);
 }
 
-int BatchFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext& context) {
+PageResult BatchFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext& context) {
   page.open(context);
   if (shownBefore(page)) {
     page.pressCancel();
@@ -87,7 +87,7 @@ int BatchFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext& cont
   return finishWithNext(page, context);
 }
 
-int BatchFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& context) {
+PageResult BatchFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& context) {
   page.open(context);
   if (shownBefore(page)) {
     page.pressCancel();

@@ -19,9 +19,9 @@ class BatchFrontEnd : public FrontEnd {
   void report(const std::string& text) override;
   bool ask(const std::string& text) override;
 
-  int showActionPage(ActionPage& page, PageContext& context) override;
-  int showModulonPage(ModulonSelectionPage& page, PageContext& context) override;
-  int showBrowserPage(VariationBrowserPage& page, PageContext& context) override;
+  PageResult showActionPage(ActionPage& page, PageContext& context) override;
+  PageResult showModulonPage(ModulonSelectionPage& page, PageContext& context) override;
+  PageResult showBrowserPage(VariationBrowserPage& page, PageContext& context) override;
 
  private:
   // A page shown again (the plug-in went back, or could not be started) would be filled the same way and

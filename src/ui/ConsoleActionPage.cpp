@@ -5,7 +5,7 @@
 
 namespace plovix {
 
-int ConsoleFrontEnd::showActionPage(ActionPage& page, PageContext& context) {
+PageResult ConsoleFrontEnd::showActionPage(ActionPage& page, PageContext& context) {
   page.open();
   for (;;) {
     printTitle(page.windowTitle(""));

@@ -37,7 +37,7 @@ void ConsoleFrontEnd::printBrowserPage(const VariationBrowserPage& page) {
                consoleLabel(pagetexts::kModulonBoxLabel).c_str(), page.modulonText.c_str());
 }
 
-int ConsoleFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& context) {
+PageResult ConsoleFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& context) {
   page.open(context);
   const std::vector<std::pair<int, std::string>> focusNames = {
       {kControlFileName, consoletexts::kFileNameBox},

@@ -26,9 +26,9 @@ class ConsoleFrontEnd : public FrontEnd {
   void report(const std::string& text) override;
   bool ask(const std::string& text) override;
 
-  int showActionPage(ActionPage& page, PageContext& context) override;
-  int showModulonPage(ModulonSelectionPage& page, PageContext& context) override;
-  int showBrowserPage(VariationBrowserPage& page, PageContext& context) override;
+  PageResult showActionPage(ActionPage& page, PageContext& context) override;
+  PageResult showModulonPage(ModulonSelectionPage& page, PageContext& context) override;
+  PageResult showBrowserPage(VariationBrowserPage& page, PageContext& context) override;
 
  protected:
   // Reads one line from the terminal without its line end; false at the end of input.

@@ -15,7 +15,7 @@ constexpr std::string_view kLanguageButtons[] = {pagetexts::kThdlButton, pagetex
 
 }  // namespace
 
-int ConsoleFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext& context) {
+PageResult ConsoleFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext& context) {
   page.open(context);
   const std::vector<std::pair<int, std::string>> focusNames = {
       {kControlModulonTree, consoletexts::kModulonTree}, {kControlOutputName, consoletexts::kOutputName}};

@@ -20,13 +20,13 @@ using Log = std::vector<std::string>;
 const std::string kPage1 = "action:Plovix Plug-In Manager [page 1]";
 const std::string kPage2a = "modulon:Plovix Plug-In Manager [page 2a]";
 
-int chooseCreate(ActionPage& page) {
+PageResult chooseCreate(ActionPage& page) {
   page.createNew = true;
-  return kPageNext;
+  return PageResult::kNext;
 }
-int chooseEdit(ActionPage& page) {
+PageResult chooseEdit(ActionPage& page) {
   page.createNew = false;
-  return kPageNext;
+  return PageResult::kNext;
 }
 
 // A modulon page script that fills the page like a user and presses Next.
@@ -37,7 +37,7 @@ ScriptedRunSteps::PageScript<ModulonSelectionPage> pickModulon(std::string dir, 
     page.baseName = base;
     page.extension = ext;
     page.modulonName = modulon;
-    return kPageNext;
+    return PageResult::kNext;
   };
 }
 
@@ -125,7 +125,7 @@ TEST_F(RunFlowTest, BackFromTheBrowserPluginReturnsToTheBrowser) {
     page.extension = ".tdf";
     page.modulonName = "m";
     page.newVariation = true;
-    return kPageNext;
+    return PageResult::kNext;
   };
   steps.browserScript = {pickFile, pickFile};
   steps.launches = {{true, 255}, {true, 2}};
@@ -137,28 +137,28 @@ TEST_F(RunFlowTest, BackFromTheBrowserPluginReturnsToTheBrowser) {
 
 TEST_F(RunFlowTest, BrowserBackGoesToTheActionPageAndCancelStaysPut) {
   steps.actionScript = {chooseEdit, chooseEdit};
-  steps.browserScript = {[](VariationBrowserPage&) { return int(kPageBack); }};
+  steps.browserScript = {[](VariationBrowserPage&) { return PageResult::kBack; }};
   run();
   EXPECT_EQ(steps.log, (Log{"catalog", kPage1, "browser:" + temp.dir() + "|||", kPage1,
                             "browser:" + temp.dir() + "|||"}));
-  EXPECT_EQ(app.run.state, kStateBrowserPage) << "Cancel on the browser keeps its state";
+  EXPECT_EQ(app.run.state, RunState::kBrowserPage) << "Cancel on the browser keeps its state";
 }
 
 TEST_F(RunFlowTest, SwitchingTheActionClearsTheRunFieldsButNotThePageEntries) {
   app.lastOutputPath = temp.dir() + "prev.tdf";
   // Edit first (the remembered choice is edit, so the preset survives), then back, then create.
   steps.actionScript = {chooseEdit, chooseCreate, chooseCreate};
-  steps.browserScript = {[](VariationBrowserPage&) { return int(kPageBack); }};
+  steps.browserScript = {[](VariationBrowserPage&) { return PageResult::kBack; }};
   ModulonSelectionPage* seen = nullptr;
   steps.modulonScript = {[&](ModulonSelectionPage& page) {
                            seen = &page;
                            page.outputText = "typed";
-                           return int(kPageBack);
+                           return PageResult::kBack;
                          },
                          [&](ModulonSelectionPage& page) {
                            EXPECT_EQ(&page, seen);
                            EXPECT_EQ(page.outputText, "typed") << "the page keeps its entries";
-                           return int(kPageCancel);
+                           return PageResult::kCancel;
                          }};
   run();
   EXPECT_EQ(steps.log[2], "browser:" + temp.dir() + "|prev|.tdf|");
@@ -175,7 +175,7 @@ TEST_F(RunFlowTest, ChangingTheOutputNameDeletesBothCnxFiles) {
     page.directory = temp.dir();
     page.baseName = "new";
     page.extension = ".tdf";
-    return int(kPageNext);
+    return PageResult::kNext;
   }};
   steps.launches = {{true, 2}};
   run();
@@ -191,7 +191,7 @@ TEST_F(RunFlowTest, EditModePreparesTheDescriptionFromCnxOrVariationFile) {
     page.extension = ".vhd";
     page.modulonName = "m";
     page.newVariation = false;
-    return int(kPageNext);
+    return PageResult::kNext;
   };
   steps.actionScript = {chooseEdit};
   steps.browserScript = {editExisting};

@@ -14,22 +14,22 @@ class ScriptedRunSteps : public RunSteps {
  public:
   // A page script entry: sets the page's fields and gives its result.
   template <class Page>
-  using PageScript = std::function<int(Page&)>;
+  using PageScript = std::function<PageResult(Page&)>;
 
   void loadCatalog(ManagerRun& run) override {
     log.push_back("catalog");
     run.catalog = std::make_unique<WizardCatalog>();
     if (catalogLoader) catalogLoader(*run.catalog);
   }
-  int showActionPage(ManagerRun&, ActionPage& page) override {
+  PageResult showActionPage(ManagerRun&, ActionPage& page) override {
     log.push_back("action:" + page.caption);
     return next(actionScript, page);
   }
-  int showModulonPage(ManagerRun&, ModulonSelectionPage& page) override {
+  PageResult showModulonPage(ManagerRun&, ModulonSelectionPage& page) override {
     log.push_back("modulon:" + page.caption);
     return next(modulonScript, page);
   }
-  int showBrowserPage(ManagerRun& run, VariationBrowserPage& page) override {
+  PageResult showBrowserPage(ManagerRun& run, VariationBrowserPage& page) override {
     log.push_back("browser:" + run.directory + "|" + page.baseName + "|" + page.extension + "|" +
                   page.modulonName);
     return next(browserScript, page);
@@ -81,8 +81,8 @@ class ScriptedRunSteps : public RunSteps {
  private:
   // Runs the next script entry; an exhausted script cancels the page.
   template <class Page>
-  static int next(std::deque<PageScript<Page>>& script, Page& page) {
-    if (script.empty()) return kPageCancel;
+  static PageResult next(std::deque<PageScript<Page>>& script, Page& page) {
+    if (script.empty()) return PageResult::kCancel;
     PageScript<Page> step = script.front();
     script.pop_front();
     page.result = step(page);

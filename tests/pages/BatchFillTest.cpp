@@ -39,11 +39,11 @@ TEST_F(BatchFillTest, ActionPageCreatesOnlyWithAModulon) {
   PageContext context{ui, catalog, corner, dir.dir(), ""};
   ActionPage page;
   BatchFrontEnd withModulon = frontEnd("COUNTER");
-  EXPECT_EQ(withModulon.showActionPage(page, context), kPageNext);
+  EXPECT_EQ(withModulon.showActionPage(page, context), PageResult::kNext);
   EXPECT_TRUE(page.createNew);
   ActionPage other;
   BatchFrontEnd without = frontEnd("");
-  EXPECT_EQ(without.showActionPage(other, context), kPageNext);
+  EXPECT_EQ(without.showActionPage(other, context), PageResult::kNext);
   EXPECT_FALSE(other.createNew);
 }
 
@@ -53,14 +53,14 @@ TEST_F(BatchFillTest, ModulonPageTakesTheDesignFileTheModulonAndTheLanguage) {
   ModulonSelectionPage page;
   page.directory = "/";
   BatchFrontEnd batch = frontEnd("OLD", "verilog");
-  EXPECT_EQ(batch.showModulonPage(page, context), kPageNext);
+  EXPECT_EQ(batch.showModulonPage(page, context), PageResult::kNext);
   EXPECT_EQ(page.modulonName, "COUNTER");
   EXPECT_EQ(page.baseName, "count8");
   EXPECT_EQ(page.extension, ".v");
   EXPECT_EQ(page.directory, dir.path("out/"));
 
   // Shown again after the plug-in went back: Cancel without a second fill.
-  EXPECT_EQ(batch.showModulonPage(page, context), kPageCancel);
+  EXPECT_EQ(batch.showModulonPage(page, context), PageResult::kCancel);
   EXPECT_TRUE(ui.boxes.empty());
 }
 
@@ -68,12 +68,12 @@ TEST_F(BatchFillTest, PageLeftOpenAfterNextEndsWithCancel) {
   PageContext noFile{ui, catalog, corner, dir.dir(), dir.dir()};
   ModulonSelectionPage page;
   BatchFrontEnd batch = frontEnd("COUNTER");
-  EXPECT_EQ(batch.showModulonPage(page, noFile), kPageCancel);
+  EXPECT_EQ(batch.showModulonPage(page, noFile), PageResult::kCancel);
   EXPECT_EQ(ui.boxes.size(), 1u);
   PageContext unknown{ui, catalog, corner, dir.dir(), dir.path("x.tdf")};
   ModulonSelectionPage second;
   BatchFrontEnd unknownModulon = frontEnd("MISSING");
-  EXPECT_EQ(unknownModulon.showModulonPage(second, unknown), kPageCancel);
+  EXPECT_EQ(unknownModulon.showModulonPage(second, unknown), PageResult::kCancel);
   EXPECT_EQ(ui.boxes.back(), testing::reported(Msg::kSelectAvailableModulon));
 }
 
@@ -85,14 +85,14 @@ TEST_F(BatchFillTest, BrowserPageUsesTheSignatureUnlessTheBatchNamesAModulon) {
   page.baseName = "adder";
   page.extension = ".tdf";
   BatchFrontEnd plain = frontEnd("");
-  EXPECT_EQ(plain.showBrowserPage(page, context), kPageNext);
+  EXPECT_EQ(plain.showBrowserPage(page, context), PageResult::kNext);
   EXPECT_FALSE(page.newVariation);
   EXPECT_EQ(page.modulonName, "ADDER");
   EXPECT_TRUE(ui.boxes.empty());
 
   VariationBrowserPage other = page;
   BatchFrontEnd named = frontEnd("COUNTER");
-  EXPECT_EQ(named.showBrowserPage(other, context), kPageNext);
+  EXPECT_EQ(named.showBrowserPage(other, context), PageResult::kNext);
   EXPECT_TRUE(other.newVariation);
   EXPECT_EQ(other.modulonName, "COUNTER");
   ASSERT_EQ(ui.boxes.size(), 1u);

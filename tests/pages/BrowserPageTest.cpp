@@ -40,7 +40,7 @@ class BrowserPageTest : public ::testing::Test {
     files.write("notes.txt", "1234567");
     files.write("sub/inner.v", signed_("COUNTER"));
     page.directory = files.dir();
-    page.pageKind = kMiddlePage;
+    page.pageKind = PageKind::kMiddle;
   }
 
   Strings names() const {
@@ -251,7 +251,7 @@ TEST_F(BrowserPageTest, ClicksDoubleClicksAndUpOneLevel) {
   EXPECT_EQ(page.directory, files.path("sub/"));
   EXPECT_EQ(names(), Strings{"inner.v"});
   EXPECT_TRUE(page.doubleClickItem(context, 0, PixelRect{0, 0, 640, 480}));
-  EXPECT_EQ(page.result, kPageNext);
+  EXPECT_EQ(page.result, PageResult::kNext);
   EXPECT_EQ(page.baseName, "inner");
   EXPECT_EQ(corner.right, 640);
 
@@ -281,7 +281,7 @@ TEST_F(BrowserPageTest, BackGivesTheBoxesToTheRun) {
   EXPECT_EQ(page.modulonText, "COUNTER");
   page.clickWizardOnly(context);
   EXPECT_TRUE(page.pressBack(context, std::nullopt));
-  EXPECT_EQ(page.result, kPageBack);
+  EXPECT_EQ(page.result, PageResult::kBack);
   EXPECT_EQ(page.modulonName, "COUNTER");
   EXPECT_FALSE(page.showOnlyWizardFiles);
   EXPECT_EQ(page.baseName, "inner");

@@ -83,36 +83,36 @@ TEST_F(FrameFixture, KnownCornerKeepsTheBottomRightAndStaysOnTheScreen) {
 TEST_F(FrameFixture, NextAndBackStoreThePositionAndCancelDoesNot) {
   WizardPageFrame frame;
   EXPECT_TRUE(frame.pressNext(context, PixelRect{10, 10, 310, 250}));
-  EXPECT_EQ(frame.result, kPageNext);
+  EXPECT_EQ(frame.result, PageResult::kNext);
   EXPECT_EQ(corner.right, 310);
   EXPECT_EQ(corner.bottom, 250);
   EXPECT_TRUE(frame.pressBack(context, PixelRect{0, 0, 200, 100}));
-  EXPECT_EQ(frame.result, kPageBack);
+  EXPECT_EQ(frame.result, PageResult::kBack);
   EXPECT_EQ(corner.right, 200);
   frame.pressCancel();
-  EXPECT_EQ(frame.result, kPageCancel);
+  EXPECT_EQ(frame.result, PageResult::kCancel);
   EXPECT_EQ(corner.right, 200);
   EXPECT_TRUE(frame.pressFinish(context, std::nullopt));
-  EXPECT_EQ(frame.result, kPageFinish);
+  EXPECT_EQ(frame.result, PageResult::kFinish);
 }
 
 TEST_F(FrameFixture, FailedCheckKeepsThePageOpenAndTheResultUnchanged) {
   CheckedPage page;
   page.accept = false;
-  page.result = kPageBack;
+  page.result = PageResult::kBack;
   EXPECT_FALSE(page.pressNext(context, PixelRect{0, 0, 400, 300}));
-  EXPECT_EQ(page.result, kPageBack);
+  EXPECT_EQ(page.result, PageResult::kBack);
   EXPECT_EQ(corner.right, 400);  // the position is stored before the check
 }
 
 TEST_F(FrameFixture, PageKindDecidesTheDisabledButtonAndTheDefault) {
   WizardPageFrame frame;
-  frame.pageKind = kFirstPage;
+  frame.pageKind = PageKind::kFirst;
   frame.openFrame();
   EXPECT_FALSE(frame.isEnabled(kControlBack));
   EXPECT_TRUE(frame.isEnabled(kControlNext));
   EXPECT_EQ(frame.defaultButton(), kControlNext);
-  frame.pageKind = kLastPage;
+  frame.pageKind = PageKind::kLast;
   frame.openFrame();
   EXPECT_TRUE(frame.isEnabled(kControlBack));
   EXPECT_FALSE(frame.isEnabled(kControlNext));
@@ -121,7 +121,7 @@ TEST_F(FrameFixture, PageKindDecidesTheDisabledButtonAndTheDefault) {
 
 TEST_F(FrameFixture, ActionPageTakesTheCreateButtonOnNextOnly) {
   ActionPage page;
-  page.pageKind = kFirstPage;
+  page.pageKind = PageKind::kFirst;
   page.createNew = false;
   page.open();
   EXPECT_FALSE(page.createChecked);

@@ -49,7 +49,7 @@ class ModulonPageTest : public ::testing::Test {
     catalog.loadFrom(ui, catalogDir.path("lib"), "");
     ASSERT_TRUE(ui.boxes.empty()) << ui.boxes.front();
     page.directory = out.dir();
-    page.pageKind = kMiddlePage;
+    page.pageKind = PageKind::kMiddle;
   }
 
   // Opens the page, selects a modulon and types the output name.
@@ -110,7 +110,7 @@ TEST_F(ModulonPageTest, BackKeepsTheEntriesForTheNextVisit) {
   EXPECT_EQ(page.focusControl, kControlModulonTree);
   page.languageIndex = 1;
   EXPECT_TRUE(page.pressBack(context, PixelRect{0, 0, 500, 400}));
-  EXPECT_EQ(page.result, kPageBack);
+  EXPECT_EQ(page.result, PageResult::kBack);
   EXPECT_EQ(corner.right, 500);
   EXPECT_EQ(page.extension, ".vhd");
   EXPECT_EQ(page.modulonName, "COUNTER");
@@ -156,7 +156,7 @@ TEST_F(ModulonPageTest, TypedExtensionOverridesTheButtonsAndAMissingOneTakesTheB
   prepare("COUNTER", "plain");
   page.languageIndex = 1;
   EXPECT_TRUE(next());
-  EXPECT_EQ(page.result, kPageNext);
+  EXPECT_EQ(page.result, PageResult::kNext);
   EXPECT_EQ(page.baseName, "plain");
   EXPECT_EQ(page.extension, ".vhd");
   EXPECT_EQ(page.directory, out.dir());

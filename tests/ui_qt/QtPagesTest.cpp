@@ -72,7 +72,7 @@ class QtPagesTest : public QObject {
     PageContext context{*frontEnd, catalog, corner, "/", ""};
     ActionPage page;
     page.notice = "notice";
-    page.pageKind = kFirstPage;
+    page.pageKind = PageKind::kFirst;
     page.setCaption("Plovix Plug-In Manager [page 1]");
     page.open();
     QRect geometry;
@@ -102,7 +102,7 @@ class QtPagesTest : public QObject {
           clickChild(dialog, "next");
         },
         "1-action-page");
-    QCOMPARE(frontEnd->showActionPage(page, context), int(kPageNext));
+    QCOMPARE(int(frontEnd->showActionPage(page, context)), int(PageResult::kNext));
     QVERIFY(driver.finished());
     QVERIFY(!page.createNew);
     QVERIFY(corner.known);
@@ -119,7 +119,7 @@ class QtPagesTest : public QObject {
       QTest::keyClick(dialog, Qt::Key_Escape);
     });
     page.open();
-    QCOMPARE(frontEnd->showActionPage(page, context), int(kPageCancel));
+    QCOMPARE(int(frontEnd->showActionPage(page, context)), int(PageResult::kCancel));
     QCOMPARE(corner.right, before.right);
   }
 
@@ -155,7 +155,7 @@ class QtPagesTest : public QObject {
     PageContext context{*frontEnd, loaded, corner, dir.dir(), ""};
     ModulonSelectionPage page;
     page.directory = dir.dir();
-    page.pageKind = kMiddlePage;
+    page.pageKind = PageKind::kMiddle;
     page.setCaption("Plovix Plug-In Manager [page 2a]");
     page.open(context);
     ModalDriver driver;
@@ -194,7 +194,7 @@ class QtPagesTest : public QObject {
       clickChild(dialog, "vhdl");
       clickChild(dialog, "back");
     });
-    QCOMPARE(frontEnd->showModulonPage(page, context), int(kPageBack));
+    QCOMPARE(int(frontEnd->showModulonPage(page, context)), int(PageResult::kBack));
     QVERIFY2(driver.finished(), qPrintable(driver.pending().join(",")));
     QCOMPARE(page.modulonName, std::string("lpm_counter"));
     QCOMPARE(page.extension, std::string(".vhd"));

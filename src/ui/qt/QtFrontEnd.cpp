@@ -44,19 +44,19 @@ bool QtFrontEnd::processEvents() {
   return !quitRequested_;
 }
 
-int QtFrontEnd::showActionPage(ActionPage& page, PageContext& context) {
+PageResult QtFrontEnd::showActionPage(ActionPage& page, PageContext& context) {
   page.open();
   QtActionDialog dialog(page, context);
   return dialog.run();
 }
 
-int QtFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext& context) {
+PageResult QtFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext& context) {
   page.open(context);
   QtModulonDialog dialog(page, context);
   return dialog.run();
 }
 
-int QtFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& context) {
+PageResult QtFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& context) {
   page.open(context);
   QtBrowserDialog dialog(page, context);
   return dialog.run();

@@ -19,9 +19,9 @@ class QtFrontEnd : public FrontEnd {
   bool ask(const std::string& text) override;
   bool processEvents() override;
 
-  int showActionPage(ActionPage& page, PageContext& context) override;
-  int showModulonPage(ModulonSelectionPage& page, PageContext& context) override;
-  int showBrowserPage(VariationBrowserPage& page, PageContext& context) override;
+  PageResult showActionPage(ActionPage& page, PageContext& context) override;
+  PageResult showModulonPage(ModulonSelectionPage& page, PageContext& context) override;
+  PageResult showBrowserPage(VariationBrowserPage& page, PageContext& context) override;
 
  private:
   FrontEndOptions options_;

@@ -96,7 +96,7 @@ void QtPageDialog::reject() {
   QDialog::reject();
 }
 
-int QtPageDialog::run() {
+PageResult QtPageDialog::run() {
   setWindowTitle(QString::fromStdString(frame_.windowTitle("")));
   const PixelRect grown = frame_.grow({0, 0, templateSize_.width(), templateSize_.height()});
   setFixedSize(grown.width(), grown.height());

@@ -16,7 +16,7 @@ class QtPageDialog : public QDialog {
   QtPageDialog(WizardPageFrame& frame, PageContext& context, QSize templateSize);
 
   // Titles, grows and places the dialog, adds the buttons, and runs it modally; gives the page's result.
-  int run();
+  PageResult run();
 
   // Names a control so that checks can give it the focus.
   void registerControl(int id, QWidget* widget) { controls_[id] = widget; }
