@@ -1,5 +1,5 @@
 // Parsing the command line the manager builds: program options, the quoted output path, " -n ", " -symbol ",
-// the extra arguments and the window options.
+// the extra arguments and the window options; or one of the questions --describe and --help.
 #include "PluginArguments.h"
 
 #include <cctype>
@@ -50,6 +50,10 @@ ParsedArguments parsePluginArguments(const std::vector<std::string>& argv) {
     if (argument.empty()) continue;
     if (argument == "-m" || argument == "--modulon") {
       if (i + 1 < argv.size()) out.modulon = argv[++i];
+    } else if (argument == "--describe") {
+      out.describe = true;
+    } else if (argument == "--help") {
+      out.help = true;
     } else if (argument == "-n") {
       out.newVariation = true;
     } else if (argument == "-symbol") {
@@ -68,7 +72,8 @@ ParsedArguments parsePluginArguments(const std::vector<std::string>& argv) {
       return {std::nullopt, strayArgumentText(argument)};
     }
   }
-  if (!havePath) return {std::nullopt, missingOutputText()};
+  // The two questions about the plug-in itself need no output file.
+  if (!havePath && !out.describe && !out.help) return {std::nullopt, missingOutputText()};
   return {out, ""};
 }
 

@@ -18,6 +18,8 @@ struct PluginArguments {
   long long windowBottom = 0;   // -y
   long long managerThread = 0;  // -h
   std::vector<std::pair<std::string, std::string>> assignments;  // NAME=VALUE, in order
+  bool describe = false;  // --describe: print the modulon's settings, write nothing
+  bool help = false;      // --help: print the usage text
 };
 
 // The arguments, or a message saying what is wrong with them.

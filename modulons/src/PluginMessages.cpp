@@ -70,6 +70,41 @@ std::string noShiftOutputText() {
   return "At least one of Q and SHIFTOUT must be YES";
 }
 
+std::string usageText(const std::string& modulonLines) {
+  return "Usage: plovix-wizard -m MODULON OUTPUT [-n] [-symbol] [NAME=VALUE ...] [-xR -yB -p2 -hTID]\n"
+         "       plovix-wizard -m MODULON --describe\n"
+         "       plovix-wizard --help\n"
+         "\n"
+         "Asks for the settings of a variation of MODULON and writes its description beside OUTPUT (the "
+         "same\n"
+         "name with the extension .cnx), for the plug-in manager to generate the variation's files. The\n"
+         "extension of OUTPUT (.tdf, .vhd, .v) chooses the language the description is made for.\n"
+         "\n"
+         "Options:\n"
+         "  -m, --modulon NAME  the modulon to describe (see the list below)\n"
+         "  -n                  a new variation; without it the values start from the description beside "
+         "OUTPUT\n"
+         "  -symbol             accepted for the manager; the symbol is always described\n"
+         "  NAME=VALUE          a setting's value; when values are given no questions are asked\n"
+         "  -xR -yB -p2 -hTID   the manager's window corner and thread, where the dialog is placed and "
+         "reports\n"
+         "  --describe          print the modulon's settings as JSON on standard output and exit\n"
+         "  --help              print this text and exit\n"
+         "\n"
+         "Exit status: 0 finished, 3 back, 2 cancelled or refused.\n"
+         "\n"
+         "Modulons:\n" +
+         modulonLines;
+}
+
+std::string modulonLineText(const std::string& modulon, const std::string& title) {
+  return "  " + modulon + std::string(modulon.size() < 18 ? 18 - modulon.size() : 1, ' ') + title + "\n";
+}
+
+std::string freeTextText() {
+  return "any text on one line without double quotes";
+}
+
 std::string promptHeadingText(const std::string& modulon, const std::string& title, const std::string& path) {
   return modulon + " (" + title + ") for " + path +
          "\nPress Enter to keep the value in brackets, type < to go back, or end the input to cancel.\n";

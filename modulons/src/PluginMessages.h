@@ -24,6 +24,12 @@ std::string tooManyWordsText(long long words, long long widthad);
 std::string noCompareOutputText();
 std::string noShiftOutputText();
 
+// The usage text of --help; modulonLines holds one line per modulon.
+std::string usageText(const std::string& modulonLines);
+std::string modulonLineText(const std::string& modulon, const std::string& title);
+// What a text setting allows.
+std::string freeTextText();
+
 // Terminal prompts.
 std::string promptHeadingText(const std::string& modulon, const std::string& title, const std::string& path);
 std::string promptText(const std::string& name, const std::string& question, const std::string& allowed,

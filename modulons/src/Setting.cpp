@@ -31,6 +31,12 @@ std::optional<long long> wholeNumber(const std::string& text) {
 }  // namespace
 
 std::optional<std::string> acceptValue(const Setting& setting, const std::string& text) {
+  if (setting.kind == SettingKind::kText) {
+    for (const char c : text) {
+      if (c == '"' || static_cast<unsigned char>(c) < 0x20 || c == 0x7f) return std::nullopt;
+    }
+    return text;
+  }
   if (setting.isNumber()) {
     const std::optional<long long> number = wholeNumber(text);
     if (!number || *number < setting.minimum || *number > setting.maximum) return std::nullopt;
@@ -43,6 +49,7 @@ std::optional<std::string> acceptValue(const Setting& setting, const std::string
 }
 
 std::string allowedValuesText(const Setting& setting) {
+  if (setting.kind == SettingKind::kText) return freeTextText();
   if (setting.isNumber()) return numberRangeText(setting.minimum, setting.maximum);
   std::string text;
   for (const std::string& choice : setting.choices) {
@@ -63,16 +70,20 @@ namespace plovix::wizard {
 
 Setting numberSetting(const std::string& name, const std::string& question, long long minimum,
                       long long maximum, long long defaultValue) {
-  return Setting{name, question, {}, minimum, maximum, std::to_string(defaultValue)};
+  return Setting{name, question, SettingKind::kInteger, {}, minimum, maximum, std::to_string(defaultValue)};
 }
 
 Setting choiceSetting(const std::string& name, const std::string& question, std::vector<std::string> choices,
                       const std::string& defaultValue) {
-  return Setting{name, question, std::move(choices), 0, 0, defaultValue};
+  return Setting{name, question, SettingKind::kChoice, std::move(choices), 0, 0, defaultValue};
 }
 
 Setting yesNoSetting(const std::string& name, const std::string& question, bool defaultValue) {
   return choiceSetting(name, question, {"YES", "NO"}, defaultValue ? "YES" : "NO");
+}
+
+Setting textSetting(const std::string& name, const std::string& question, const std::string& defaultValue) {
+  return Setting{name, question, SettingKind::kText, {}, 0, 0, defaultValue};
 }
 
 bool isYes(const SettingValues& values, const std::string& name) {

@@ -8,6 +8,7 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -44,6 +45,12 @@ Field addField(QFormLayout& form, const Setting& setting, const std::string& cur
     box->setToolTip(QString::fromStdString(allowedValuesText(setting)));
     form.addRow(QString::fromStdString(setting.question), box);
     return {setting.name, [box] { return std::to_string(box->value()); }};
+  }
+  if (setting.kind == SettingKind::kText) {
+    auto* line = new QLineEdit(QString::fromStdString(current));
+    line->setToolTip(QString::fromStdString(allowedValuesText(setting)));
+    form.addRow(QString::fromStdString(setting.question), line);
+    return {setting.name, [line] { return line->text().toStdString(); }};
   }
   auto* box = new QComboBox;
   for (const std::string& choice : setting.choices) box->addItem(QString::fromStdString(choice));
@@ -97,8 +104,17 @@ DialogOutcome WindowDialog::collect(const Modulon& modulon, const PluginArgument
   });
   QObject::connect(finish, &QPushButton::clicked, &dialog, [&] {
     SettingValues chosen = values;
-    for (const Field& field : fields) chosen[field.name] = field.read();
-    if (const std::optional<std::string> conflict = modulon.check(chosen)) {
+    std::optional<std::string> conflict;
+    for (const Field& field : fields) {
+      const std::string text = field.read();
+      const Setting* setting = modulon.findSetting(field.name);
+      // Spin boxes and lists give only allowed values; a text field may hold what a description cannot.
+      if (!conflict && setting != nullptr && !acceptValue(*setting, text))
+        conflict = badValueText(field.name, text, allowedValuesText(*setting));
+      chosen[field.name] = text;
+    }
+    if (!conflict) conflict = modulon.check(chosen);
+    if (conflict) {
       QMessageBox::warning(&dialog, dialog.windowTitle(), QString::fromStdString(*conflict));
       return;
     }

@@ -9,6 +9,7 @@
 #include "ModulonLibrary.h"
 #include "PluginMessages.h"
 #include "PreparedDescription.h"
+#include "SettingsJson.h"
 
 namespace plovix::wizard {
 
@@ -97,13 +98,19 @@ std::string descriptionFor(const Modulon& modulon, const SettingValues& values, 
 }
 
 int runWizard(const std::vector<std::string>& argv, const std::vector<Modulon>& modulons,
-              DialogChooser& chooser, std::ostream& messages) {
+              DialogChooser& chooser, std::ostream& output, std::ostream& messages) {
   const ParsedArguments parsed = parsePluginArguments(argv);
   if (!parsed.arguments) {
     messages << parsed.error << "\n";
     return kExitCancel;
   }
   const PluginArguments& arguments = *parsed.arguments;
+  if (arguments.help) {
+    std::string lines;
+    for (const Modulon& modulon : modulons) lines += modulonLineText(modulon.name, modulon.title);
+    output << usageText(lines) << std::flush;
+    return output ? kExitFinish : kExitCancel;
+  }
   if (arguments.modulon.empty()) {
     messages << missingModulonText(modulonNamesText(modulons)) << "\n";
     return kExitCancel;
@@ -112,6 +119,11 @@ int runWizard(const std::vector<std::string>& argv, const std::vector<Modulon>& 
   if (modulon == nullptr) {
     messages << unknownModulonText(arguments.modulon, modulonNamesText(modulons)) << "\n";
     return kExitCancel;
+  }
+  if (arguments.describe) {
+    // Only the settings table: nothing is asked and nothing is written.
+    output << settingsJson(*modulon) << std::flush;
+    return output ? kExitFinish : kExitCancel;
   }
 
   SettingValues values;

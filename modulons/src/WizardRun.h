@@ -33,9 +33,10 @@ class DialogChooser {
   virtual ValueDialog* dialogFor(const PluginArguments& arguments) = 0;
 };
 
-// Runs the plug-in and gives its exit code; refusals and notes go to messages.
+// Runs the plug-in and gives its exit code; the answers of --describe and --help go to output, refusals and
+// notes to messages.
 int runWizard(const std::vector<std::string>& argv, const std::vector<Modulon>& modulons,
-              DialogChooser& chooser, std::ostream& messages);
+              DialogChooser& chooser, std::ostream& output, std::ostream& messages);
 
 // The values of a run before any question: defaults, then the prepared description's PRIVATE: values (edit),
 // then the NAME=VALUE pairs. Gives a refusal message when a pair names no setting or a bad value.

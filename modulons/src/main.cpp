@@ -1,5 +1,5 @@
 // The bundled modulons' plug-in program: plovix-wizard -m MODULON "OUTPUT" [-n] [-symbol] [NAME=VALUE...]
-// [-xR -yB -p2 -hTID].
+// [-xR -yB -p2 -hTID], plovix-wizard -m MODULON --describe, plovix-wizard --help.
 #include <iostream>
 #include <string>
 #include <vector>
@@ -11,5 +11,6 @@
 int main(int argc, char** argv) {
   const std::vector<std::string> arguments(argv + 1, argv + argc);
   plovix::wizard::DialogChoice chooser;
-  return plovix::wizard::runWizard(arguments, plovix::wizard::bundledModulons(), chooser, std::cerr);
+  return plovix::wizard::runWizard(arguments, plovix::wizard::bundledModulons(), chooser, std::cout,
+                                   std::cerr);
 }

@@ -3,6 +3,7 @@
 
 #include "PreparedDescription.h"
 #include "Setting.h"
+#include "SettingsJson.h"
 
 namespace plovix::wizard {
 namespace {
@@ -27,6 +28,19 @@ TEST(SettingTest, NumbersAreWholeAndInRange) {
   EXPECT_FALSE(acceptValue(width, "-"));
   EXPECT_FALSE(acceptValue(width, "99999999999999999999"));
   EXPECT_EQ(allowedValuesText(width), "a whole number from 1 to 32");
+}
+
+TEST(SettingTest, TextIsOneLineWithoutDoubleQuotesAndEscapedInJson) {
+  const Setting file = textSetting("LPM_FILE", "Initialisation \"file\" \\ path", "");
+  EXPECT_EQ(acceptValue(file, "init data.hex"), "init data.hex");
+  EXPECT_EQ(acceptValue(file, ""), "");
+  EXPECT_FALSE(acceptValue(file, "a\"b"));
+  EXPECT_FALSE(acceptValue(file, "a\nb"));
+  const Modulon modulon{"m", "T\tt", {file}, nullptr, nullptr};
+  EXPECT_EQ(
+      settingsJson(modulon),
+      "{\"modulon\": \"m\",\n \"title\": \"T\\u0009t\",\n \"settings\": [\n  {\"name\": \"LPM_FILE\", "
+      "\"kind\": \"text\", \"default\": \"\", \"help\": \"Initialisation \\\"file\\\" \\\\ path\"}\n ]}\n");
 }
 
 TEST(PreparedDescriptionTest, ReadsPrivateValuesAsTheFormatCutsThem) {

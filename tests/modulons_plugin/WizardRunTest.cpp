@@ -35,8 +35,9 @@ class FixedDialog : public DialogChooser, public ValueDialog {
 class WizardRunTest : public ::testing::Test {
  protected:
   int run(std::vector<std::string> argv, DialogChooser& chooser) {
+    output.str("");
     messages.str("");
-    return runWizard(argv, bundledModulons(), chooser, messages);
+    return runWizard(argv, bundledModulons(), chooser, output, messages);
   }
   int run(std::vector<std::string> argv) {
     NoQuestions none;
@@ -50,7 +51,7 @@ class WizardRunTest : public ::testing::Test {
   }
 
   plovix::testing::TempDir dir;
-  std::ostringstream messages;
+  std::ostringstream output, messages;
 };
 
 TEST_F(WizardRunTest, NewVariationWritesTheDescriptionBesideTheOutput) {
@@ -133,6 +134,21 @@ TEST_F(WizardRunTest, SymbolOnlyAndDrawnSymbol) {
   EXPECT_NE(cnx.find("SYMBOL: BOX "), std::string::npos);
   EXPECT_NE(cnx.find("SYMBOL: PINSTUB 144 56 OUT result 96 52 \"result[8..0]\""), std::string::npos);
   EXPECT_EQ(run({"-m", "lpm_constant", dir.path("k.tdf"), "LPM_CVALUE=512", "LPM_WIDTH=9"}), kExitCancel);
+}
+
+TEST_F(WizardRunTest, DescribeAndHelpAnswerOnStandardOutputAndWriteNothing) {
+  // Asked with an output path and values too, --describe still only prints the settings table.
+  ASSERT_EQ(run({"-m", "lpm_counter", "--describe", dir.path("c.v"), "LPM_WIDTH=4"}), kExitFinish);
+  EXPECT_EQ(output.str(), dir.readFile(std::string(PLOVIX_TEST_DATA_DIR) + "/lpm_counter.json"));
+  EXPECT_FALSE(std::ifstream(dir.path("c.cnx")).good());
+  EXPECT_EQ(run({"--describe"}), kExitCancel);
+  EXPECT_EQ(run({"-m", "nothing", "--describe"}), kExitCancel);
+  EXPECT_EQ(output.str(), "");
+
+  ASSERT_EQ(run({"--help"}), kExitFinish);
+  for (const Modulon& modulon : bundledModulons())
+    EXPECT_NE(output.str().find("\n  " + modulon.name + " "), std::string::npos) << modulon.name;
+  EXPECT_NE(output.str().find("--describe"), std::string::npos);
 }
 
 }  // namespace
