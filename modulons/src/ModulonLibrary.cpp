@@ -4,8 +4,11 @@
 namespace plovix::wizard {
 
 std::vector<Modulon> bundledModulons() {
-  return {counterModulon(),  addSubModulon(), compareModulon(),       muxModulon(),         decodeModulon(),
-          constantModulon(), ramModulon(),    shiftRegisterModulon(), countCompareModulon()};
+  return {counterModulon(),      addSubModulon(),    compareModulon(), muxModulon(),
+          decodeModulon(),       constantModulon(),  ramModulon(),     shiftRegisterModulon(),
+          countCompareModulon(), inverterModulon(),  andModulon(),     orModulon(),
+          xorModulon(),          busDriverModulon(), shifterModulon(), multiplierModulon(),
+          dividerModulon(),      absoluteModulon()};
 }
 
 const Modulon* findModulon(const std::vector<Modulon>& modulons, const std::string& name) {
@@ -19,6 +22,14 @@ long long bitsFor(long long value) {
   long long bits = 1;
   while (bits < 62 && (1LL << bits) < value) ++bits;
   return bits;
+}
+
+}  // namespace plovix::wizard
+
+namespace plovix::wizard {
+
+Bounds wordGroupBounds(OutputLanguage language, long long count, long long width) {
+  return language == OutputLanguage::kThdl ? Bounds::rows(count, width) : Bounds::bus(count * width);
 }
 
 }  // namespace plovix::wizard

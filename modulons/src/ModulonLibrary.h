@@ -24,8 +24,21 @@ Modulon constantModulon();
 Modulon ramModulon();
 Modulon shiftRegisterModulon();
 Modulon countCompareModulon();
+Modulon inverterModulon();
+Modulon andModulon();
+Modulon orModulon();
+Modulon xorModulon();
+Modulon busDriverModulon();
+Modulon shifterModulon();
+Modulon multiplierModulon();
+Modulon dividerModulon();
+Modulon absoluteModulon();
 
 // The smallest number of bits that can count to value - 1 (at least 1).
 long long bitsFor(long long value);
+
+// A group of count words of width bits: one row per word in THDL, which has two-dimensional ports; in VHDL
+// and Verilog one flattened bus with word k at bits k * width, as the library models take it.
+Bounds wordGroupBounds(OutputLanguage language, long long count, long long width);
 
 }  // namespace plovix::wizard

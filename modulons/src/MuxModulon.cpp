@@ -1,4 +1,5 @@
-// lpm_mux: selects one of several data words; the data input is two-dimensional where the language allows.
+// lpm_mux: selects one of several data words; the data input is two-dimensional in THDL and a flattened bus
+// in VHDL and Verilog.
 #include "ModulonLibrary.h"
 
 namespace plovix::wizard {
@@ -17,10 +18,7 @@ void describeMux(const SettingValues& values, OutputLanguage language, Descripti
   cnx.numericConstant("LPM_WIDTHS", selectBits);
   cnx.stringConstant("LPM_TYPE", "LPM_MUX");
 
-  // The Verilog model takes the words side by side on one bus (word k at bits k * width); the other
-  // languages take one row per word.
-  const Bounds data =
-      language == OutputLanguage::kVerilog ? Bounds::bus(size * width) : Bounds::rows(size, width);
+  const Bounds data = wordGroupBounds(language, size, width);
   cnx.usedPort("data", data, "INPUT");
   cnx.connect("@data", data, "data", data);
   cnx.usedPort("sel", Bounds::bus(selectBits), "INPUT");
@@ -41,7 +39,7 @@ Modulon muxModulon() {
       "lpm_mux",
       "Multiplexer",
       {
-          numberSetting("LPM_WIDTH", "Width of each data word and of the result", 1, 32, 8),
+          numberSetting("LPM_WIDTH", "Width of each data word and of the result", 1, 64, 8),
           numberSetting("LPM_SIZE", "Number of data words", 2, 64, 4),
           numberSetting("LPM_PIPELINE", "Clock cycles of latency (0: combinational)", 0, 8, 0),
       },

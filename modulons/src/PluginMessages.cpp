@@ -70,6 +70,28 @@ std::string noShiftOutputText() {
   return "At least one of Q and SHIFTOUT must be YES";
 }
 
+std::string noBusPathText() {
+  return "At least one of ENABLEDT and ENABLETR must be YES";
+}
+
+std::string productTooWideText(long long widthp, long long fullWidth) {
+  return "LPM_WIDTHP=" + number(widthp) + " is wider than the product of LPM_WIDTHA and LPM_WIDTHB (" +
+         number(fullWidth) + " bits); allowed values: a whole number from 0 to " + number(fullWidth);
+}
+
+std::string needsPipelineText(const std::string& name) {
+  return name +
+         "=YES needs LPM_PIPELINE=1 or more: without a pipeline there is no register to clock or clear";
+}
+
+std::string rotateHasNoFlagText(const std::string& name) {
+  return name + "=YES needs LPM_SHIFTTYPE=LOGICAL or ARITHMETIC: a rotation loses no bits";
+}
+
+std::string flagNeedsDirectionText(const std::string& name, const std::string& directions) {
+  return name + "=YES needs DIRECTION=" + directions + ": the flag is only raised by a shift that way";
+}
+
 std::string usageText(const std::string& modulonLines) {
   return "Usage: plovix-wizard -m MODULON OUTPUT [-n] [-symbol] [NAME=VALUE ...] [-xR -yB -p2 -hTID]\n"
          "       plovix-wizard -m MODULON --describe\n"

@@ -23,6 +23,11 @@ std::string tooManyDecodesText(long long decodes, long long width);
 std::string tooManyWordsText(long long words, long long widthad);
 std::string noCompareOutputText();
 std::string noShiftOutputText();
+std::string noBusPathText();
+std::string productTooWideText(long long widthp, long long fullWidth);
+std::string needsPipelineText(const std::string& name);
+std::string rotateHasNoFlagText(const std::string& name);
+std::string flagNeedsDirectionText(const std::string& name, const std::string& directions);
 
 // The usage text of --help; modulonLines holds one line per modulon.
 std::string usageText(const std::string& modulonLines);

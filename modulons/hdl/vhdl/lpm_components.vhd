@@ -1,4 +1,6 @@
 -- Package lpm_components: the two-dimensional logic type and the component declarations of the library modules.
+-- Modules that take several words (lpm_mux, lpm_and, lpm_or, lpm_xor) take them on one flattened bus, word k at
+-- bits k*lpm_width, as in Verilog.
 library ieee;
 use ieee.std_logic_1164.all;
 
@@ -33,7 +35,7 @@ package lpm_components is
   component lpm_mux
     generic (lpm_width : NATURAL; lpm_size : NATURAL; lpm_widths : NATURAL; lpm_pipeline : NATURAL := 0;
              lpm_type : STRING := "LPM_MUX"; lpm_hint : STRING := "UNUSED");
-    port (data : in STD_LOGIC_2D(lpm_size-1 downto 0, lpm_width-1 downto 0);
+    port (data : in STD_LOGIC_VECTOR(lpm_size*lpm_width-1 downto 0);
           sel : in STD_LOGIC_VECTOR(lpm_widths-1 downto 0); clock, aclr : in STD_LOGIC := '0';
           clken : in STD_LOGIC := '1'; result : out STD_LOGIC_VECTOR(lpm_width-1 downto 0));
   end component;
@@ -67,6 +69,69 @@ package lpm_components is
     port (data : in STD_LOGIC_VECTOR(lpm_width-1 downto 0) := (others => '0'); clock : in STD_LOGIC;
           enable, shiftin : in STD_LOGIC := '1'; load, aclr, aset, sclr, sset : in STD_LOGIC := '0';
           q : out STD_LOGIC_VECTOR(lpm_width-1 downto 0); shiftout : out STD_LOGIC);
+  end component;
+
+  component lpm_inv
+    generic (lpm_width : NATURAL; lpm_type : STRING := "LPM_INV"; lpm_hint : STRING := "UNUSED");
+    port (data : in STD_LOGIC_VECTOR(lpm_width-1 downto 0); result : out STD_LOGIC_VECTOR(lpm_width-1 downto 0));
+  end component;
+
+  component lpm_and
+    generic (lpm_width : NATURAL; lpm_size : NATURAL; lpm_type : STRING := "LPM_AND"; lpm_hint : STRING := "UNUSED");
+    port (data : in STD_LOGIC_VECTOR(lpm_size*lpm_width-1 downto 0);
+          result : out STD_LOGIC_VECTOR(lpm_width-1 downto 0));
+  end component;
+
+  component lpm_or
+    generic (lpm_width : NATURAL; lpm_size : NATURAL; lpm_type : STRING := "LPM_OR"; lpm_hint : STRING := "UNUSED");
+    port (data : in STD_LOGIC_VECTOR(lpm_size*lpm_width-1 downto 0);
+          result : out STD_LOGIC_VECTOR(lpm_width-1 downto 0));
+  end component;
+
+  component lpm_xor
+    generic (lpm_width : NATURAL; lpm_size : NATURAL; lpm_type : STRING := "LPM_XOR"; lpm_hint : STRING := "UNUSED");
+    port (data : in STD_LOGIC_VECTOR(lpm_size*lpm_width-1 downto 0);
+          result : out STD_LOGIC_VECTOR(lpm_width-1 downto 0));
+  end component;
+
+  component lpm_bustri
+    generic (lpm_width : NATURAL; lpm_type : STRING := "LPM_BUSTRI"; lpm_hint : STRING := "UNUSED");
+    port (tridata : inout STD_LOGIC_VECTOR(lpm_width-1 downto 0);
+          data : in STD_LOGIC_VECTOR(lpm_width-1 downto 0) := (others => '0');
+          enabletr, enabledt : in STD_LOGIC := '0'; result : out STD_LOGIC_VECTOR(lpm_width-1 downto 0));
+  end component;
+
+  component lpm_clshift
+    generic (lpm_width : NATURAL; lpm_widthdist : NATURAL; lpm_shifttype : STRING := "LOGICAL";
+             lpm_type : STRING := "LPM_CLSHIFT"; lpm_hint : STRING := "UNUSED");
+    port (data : in STD_LOGIC_VECTOR(lpm_width-1 downto 0);
+          distance : in STD_LOGIC_VECTOR(lpm_widthdist-1 downto 0); direction : in STD_LOGIC := '0';
+          result : out STD_LOGIC_VECTOR(lpm_width-1 downto 0); overflow, underflow : out STD_LOGIC);
+  end component;
+
+  component lpm_mult
+    generic (lpm_widtha : NATURAL; lpm_widthb : NATURAL; lpm_widthp : NATURAL;
+             lpm_representation : STRING := "UNSIGNED"; lpm_pipeline : NATURAL := 0; lpm_type : STRING := "LPM_MULT";
+             lpm_hint : STRING := "UNUSED");
+    port (dataa : in STD_LOGIC_VECTOR(lpm_widtha-1 downto 0); datab : in STD_LOGIC_VECTOR(lpm_widthb-1 downto 0);
+          clock, aclr : in STD_LOGIC := '0'; clken : in STD_LOGIC := '1';
+          result : out STD_LOGIC_VECTOR(lpm_widthp-1 downto 0));
+  end component;
+
+  component lpm_divide
+    generic (lpm_widthn : NATURAL; lpm_widthd : NATURAL; lpm_nrepresentation : STRING := "UNSIGNED";
+             lpm_drepresentation : STRING := "UNSIGNED"; lpm_remainderpositive : STRING := "TRUE";
+             lpm_pipeline : NATURAL := 0; lpm_type : STRING := "LPM_DIVIDE"; lpm_hint : STRING := "UNUSED");
+    port (numer : in STD_LOGIC_VECTOR(lpm_widthn-1 downto 0); denom : in STD_LOGIC_VECTOR(lpm_widthd-1 downto 0);
+          clock, aclr : in STD_LOGIC := '0'; clken : in STD_LOGIC := '1';
+          quotient : out STD_LOGIC_VECTOR(lpm_widthn-1 downto 0);
+          remain : out STD_LOGIC_VECTOR(lpm_widthd-1 downto 0));
+  end component;
+
+  component lpm_abs
+    generic (lpm_width : NATURAL; lpm_type : STRING := "LPM_ABS"; lpm_hint : STRING := "UNUSED");
+    port (data : in STD_LOGIC_VECTOR(lpm_width-1 downto 0); result : out STD_LOGIC_VECTOR(lpm_width-1 downto 0);
+          overflow : out STD_LOGIC);
   end component;
 
 end package lpm_components;

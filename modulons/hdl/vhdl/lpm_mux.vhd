@@ -1,14 +1,13 @@
--- Multiplexer library module: selects row sel of the two-dimensional data input.
+-- Multiplexer library module: selects word sel of the lpm_size words of the flattened data bus (word k at bits
+-- k*lpm_width); a sel beyond the last word gives zeros.
 library ieee;
 use ieee.std_logic_1164.all;
 use ieee.numeric_std.all;
-library lpm;
-use lpm.lpm_components.all;
 
 entity lpm_mux is
   generic (lpm_width : NATURAL; lpm_size : NATURAL; lpm_widths : NATURAL; lpm_pipeline : NATURAL := 0;
            lpm_type : STRING := "LPM_MUX"; lpm_hint : STRING := "UNUSED");
-  port (data : in STD_LOGIC_2D(lpm_size-1 downto 0, lpm_width-1 downto 0);
+  port (data : in STD_LOGIC_VECTOR(lpm_size*lpm_width-1 downto 0);
         sel : in STD_LOGIC_VECTOR(lpm_widths-1 downto 0); clock, aclr : in STD_LOGIC := '0';
         clken : in STD_LOGIC := '1'; result : out STD_LOGIC_VECTOR(lpm_width-1 downto 0));
 end lpm_mux;
@@ -24,9 +23,7 @@ begin
     now <= (others => '0');
     row := to_integer(UNSIGNED(sel));
     if row < lpm_size then
-      for j in 0 to lpm_width-1 loop
-        now(j) <= data(row, j);
-      end loop;
+      now <= data(row*lpm_width+lpm_width-1 downto row*lpm_width);
     end if;
   end process;
   stage(0) <= now;
