@@ -8,20 +8,28 @@
 
 namespace plovix::testing {
 
-// Icarus Verilog: compiles the files with the models as library into dir/<top>.vvp.
+// The bundled model folders in the build tree.
+std::string verilogModels();
+std::string vhdlModels();
+
+// Icarus Verilog: compiles the files with the models as library into dir/<top>.vvp; runs it with plusargs.
 CommandResult icarusCompile(const TempDir& dir, const std::vector<std::string>& files,
                             const std::string& top);
-CommandResult icarusRun(const TempDir& dir, const std::string& top);
+CommandResult icarusRun(const TempDir& dir, const std::string& top, const std::string& plusargs = "");
 
 // Verilator: lints the files with the models as library; missing pins of the models' optional ports are
 // meant.
 CommandResult verilatorLint(const TempDir& dir, const std::vector<std::string>& files,
                             const std::string& top);
 
-// GHDL: the models go into library lpm (with package lpm_components) and, for default binding, into work;
-// then the files are analysed and top elaborated. Unbound optional ports take their defaults.
+// Yosys: reads the files, takes the models the design needs from the library and checks the hierarchy.
+CommandResult yosysCheck(const TempDir& dir, const std::vector<std::string>& files, const std::string& top);
+
+// GHDL (VHDL-2008): the models go into library lpm (with package lpm_components) and, for default binding,
+// into work; then the files are analysed and top elaborated. Unbound optional ports take their defaults.
 CommandResult ghdlElaborate(const TempDir& dir, const std::vector<std::string>& files,
                             const std::string& top);
-CommandResult ghdlRun(const TempDir& dir, const std::string& top);
+// Runs top; generics are "-gNAME=VALUE" words.
+CommandResult ghdlRun(const TempDir& dir, const std::string& top, const std::string& generics = "");
 
 }  // namespace plovix::testing

@@ -1,23 +1,75 @@
 // Variations made by batch runs, simulated cycle by cycle against the test benches in both languages.
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "HdlTools.h"
 
 namespace plovix::testing {
 namespace {
 
-struct Bench {
-  const char* variation;  // base name; the bench is tb_<variation>
+// A variation the bench instantiates: its base name, modulon and values.
+struct Variation {
+  const char* name;
   const char* modulon;
   const char* pluginArgs;
 };
 
+// tb_<bench>.v and tb_<bench>.vhd; a bench with vectors reads vectors/<bench>.vec (made by
+// reference/make_vectors.py) through benches/common, the others check their own sums.
+struct Bench {
+  const char* bench;
+  std::vector<Variation> variations;
+  bool vectors = true;
+};
+
 const Bench kBenches[] = {
-    {"cnt10", "lpm_counter", "LPM_WIDTH=4 LPM_DIRECTION=UP LPM_MODULUS=10 ACLR=YES CNT_EN=LOW COUT=YES"},
-    {"add8", "lpm_add_sub",
-     "LPM_WIDTH=8 LPM_DIRECTION=UNUSED LPM_REPRESENTATION=SIGNED COUT=YES OVERFLOW=YES"},
-    {"ram32", "lpm_ram_dq", "LPM_WIDTH=8 LPM_WIDTHAD=5"},
-    {"ticker", "count_compare", "LPM_WIDTH=4 MATCH_VALUE=5 ACLR=YES"},
+    {"cnt10",
+     {{"cnt10", "lpm_counter", "LPM_WIDTH=4 LPM_DIRECTION=UP LPM_MODULUS=10 ACLR=YES CNT_EN=LOW COUT=YES"}},
+     false},
+    {"add8",
+     {{"add8", "lpm_add_sub",
+       "LPM_WIDTH=8 LPM_DIRECTION=UNUSED LPM_REPRESENTATION=SIGNED COUT=YES OVERFLOW=YES"}},
+     false},
+    {"ram32", {{"ram32", "lpm_ram_dq", "LPM_WIDTH=8 LPM_WIDTHAD=5"}}, false},
+    {"ticker", {{"ticker", "count_compare", "LPM_WIDTH=4 MATCH_VALUE=5 ACLR=YES"}}, false},
+    {"inv", {{"inv1", "lpm_inv", "LPM_WIDTH=1"}, {"inv64", "lpm_inv", "LPM_WIDTH=64"}}},
+    {"gates",
+     {{"and64x3", "lpm_and", "LPM_WIDTH=64 LPM_SIZE=3"},
+      {"or1x5", "lpm_or", "LPM_WIDTH=1 LPM_SIZE=5"},
+      {"xor8x4", "lpm_xor", "LPM_WIDTH=8 LPM_SIZE=4"}}},
+    {"bustri", {{"bustri1", "lpm_bustri", "LPM_WIDTH=1"}, {"bustri64", "lpm_bustri", "LPM_WIDTH=64"}}},
+    {"clshift",
+     {{"lsh8", "lpm_clshift", "LPM_WIDTH=8 LPM_WIDTHDIST=4 DIRECTION=INPUT OVERFLOW=YES UNDERFLOW=YES"},
+      {"ash64", "lpm_clshift",
+       "LPM_WIDTH=64 LPM_WIDTHDIST=7 LPM_SHIFTTYPE=ARITHMETIC DIRECTION=INPUT OVERFLOW=YES UNDERFLOW=YES"},
+      {"rot8", "lpm_clshift", "LPM_WIDTH=8 LPM_WIDTHDIST=4 LPM_SHIFTTYPE=ROTATE DIRECTION=INPUT"},
+      {"rsh1", "lpm_clshift", "LPM_WIDTH=1 LPM_WIDTHDIST=2 DIRECTION=RIGHT UNDERFLOW=YES"}}},
+    {"mult",
+     {{"mult_u8", "lpm_mult", "LPM_WIDTHA=8 LPM_WIDTHB=8 LPM_WIDTHP=12"},
+      {"mult_s8x6_p3", "lpm_mult",
+       "LPM_WIDTHA=8 LPM_WIDTHB=6 LPM_REPRESENTATION=SIGNED LPM_PIPELINE=3 CLKEN=YES ACLR=YES"},
+      {"mult_s64", "lpm_mult", "LPM_WIDTHA=64 LPM_WIDTHB=64 LPM_REPRESENTATION=SIGNED"},
+      {"mult_u1_p3", "lpm_mult", "LPM_WIDTHA=1 LPM_WIDTHB=1 LPM_PIPELINE=3"}}},
+    {"divide",
+     {{"div_u8x4", "lpm_divide", "LPM_WIDTHN=8 LPM_WIDTHD=4"},
+      {"div_s16x8_p3", "lpm_divide",
+       "LPM_WIDTHN=16 LPM_WIDTHD=8 LPM_NREPRESENTATION=SIGNED LPM_DREPRESENTATION=SIGNED "
+       "LPM_REMAINDERPOSITIVE=FALSE LPM_PIPELINE=3 CLKEN=YES ACLR=YES"},
+      {"div_s64", "lpm_divide",
+       "LPM_WIDTHN=64 LPM_WIDTHD=64 LPM_NREPRESENTATION=SIGNED LPM_DREPRESENTATION=SIGNED"},
+      {"div_u1_p3", "lpm_divide", "LPM_WIDTHN=1 LPM_WIDTHD=1 LPM_PIPELINE=3"}}},
+    {"abs",
+     {{"abs1", "lpm_abs", "LPM_WIDTH=1"},
+      {"abs8", "lpm_abs", "LPM_WIDTH=8"},
+      {"abs64", "lpm_abs", "LPM_WIDTH=64"}}},
+    {"mux",
+     {{"mux8x5_p3", "lpm_mux", "LPM_WIDTH=8 LPM_SIZE=5 LPM_PIPELINE=3"},
+      {"mux64x2", "lpm_mux", "LPM_WIDTH=64 LPM_SIZE=2"},
+      {"mux1x3", "lpm_mux", "LPM_WIDTH=1 LPM_SIZE=3"}}},
+    {"decode",
+     {{"dec3x6", "lpm_decode", "LPM_WIDTH=3 LPM_DECODES=6 ENABLE=YES"},
+      {"dec1x2", "lpm_decode", "LPM_WIDTH=1 LPM_DECODES=2"}}},
 };
 
 class SimulationTest : public ::testing::TestWithParam<std::tuple<Bench, bool>> {};
@@ -31,28 +83,36 @@ void expectPassed(const CommandResult& run) {
 TEST_P(SimulationTest, BenchPasses) {
   const Bench& b = std::get<0>(GetParam());
   const bool verilog = std::get<1>(GetParam());
-  const std::string variation = b.variation;
-  const std::string bench = std::string(PLOVIX_BENCH_DIR) + "/tb_" + variation + (verilog ? ".v" : ".vhd");
+  const std::string top = std::string("tb_") + b.bench;
+  const std::string benches = PLOVIX_BENCH_DIR;
   if (verilog ? !haveProgram("iverilog") : !haveProgram("ghdl")) GTEST_SKIP() << "simulator missing";
 
   TempDir dir;
-  const std::string design = variation + (verilog ? ".v" : ".vhd");
-  const CommandResult made = plovixBatch(dir, b.modulon, verilog ? "verilog" : "vhdl", b.pluginArgs, design);
-  ASSERT_EQ(made.exitCode, 0) << made.output;
+  std::vector<std::string> files;
+  if (b.vectors) files.push_back(benches + "/common/bench_vectors" + (verilog ? ".v" : ".vhd"));
+  for (const Variation& v : b.variations) {
+    const std::string design = std::string(v.name) + (verilog ? ".v" : ".vhd");
+    const CommandResult made =
+        plovixBatch(dir, v.modulon, verilog ? "verilog" : "vhdl", v.pluginArgs, design);
+    ASSERT_EQ(made.exitCode, 0) << made.output;
+    files.push_back(design);
+  }
+  files.push_back(benches + "/" + top + (verilog ? ".v" : ".vhd"));
+  const std::string vectors = benches + "/../vectors/" + b.bench + ".vec";
 
   if (verilog) {
-    const CommandResult compiled = icarusCompile(dir, {design, bench}, "tb_" + variation);
+    const CommandResult compiled = icarusCompile(dir, files, top);
     ASSERT_EQ(compiled.exitCode, 0) << compiled.output;
-    expectPassed(icarusRun(dir, "tb_" + variation));
+    expectPassed(icarusRun(dir, top, b.vectors ? quoted("+vectors=" + vectors) : ""));
   } else {
-    const CommandResult elaborated = ghdlElaborate(dir, {design, bench}, "tb_" + variation);
+    const CommandResult elaborated = ghdlElaborate(dir, files, top);
     ASSERT_EQ(elaborated.exitCode, 0) << elaborated.output;
-    expectPassed(ghdlRun(dir, "tb_" + variation));
+    expectPassed(ghdlRun(dir, top, b.vectors ? quoted("-gvectors=" + vectors) : ""));
   }
 }
 
 std::string benchName(const ::testing::TestParamInfo<SimulationTest::ParamType>& info) {
-  return std::string(std::get<0>(info.param).variation) + (std::get<1>(info.param) ? "_verilog" : "_vhdl");
+  return std::string(std::get<0>(info.param).bench) + (std::get<1>(info.param) ? "_verilog" : "_vhdl");
 }
 
 INSTANTIATE_TEST_SUITE_P(Benches, SimulationTest,
@@ -63,7 +123,8 @@ INSTANTIATE_TEST_SUITE_P(Benches, SimulationTest,
 TEST(VerilatorSimulationTest, CounterBenchPasses) {
   if (!haveProgram("verilator")) GTEST_SKIP() << "Verilator missing";
   TempDir dir;
-  const CommandResult made = plovixBatch(dir, "lpm_counter", "verilog", kBenches[0].pluginArgs, "cnt10.v");
+  const CommandResult made =
+      plovixBatch(dir, "lpm_counter", "verilog", kBenches[0].variations[0].pluginArgs, "cnt10.v");
   ASSERT_EQ(made.exitCode, 0) << made.output;
   const CommandResult built =
       runIn(dir.dir(), "verilator --binary --timing -Wno-fatal -Wno-PINMISSING -y " +
