@@ -40,8 +40,8 @@ std::string vhdlModels() {
 
 CommandResult icarusCompile(const TempDir& dir, const std::vector<std::string>& files,
                             const std::string& top) {
-  return runIn(dir.dir(), "iverilog -o " + quoted(top + ".vvp") + " -s " + quoted(top) + " -y " +
-                              quoted(verilogModels()) + words(files));
+  return runIn(dir.dir(), "iverilog -Wall -Wno-portbind -o " + quoted(top + ".vvp") + " -s " + quoted(top) +
+                              " -y " + quoted(verilogModels()) + words(files));
 }
 
 CommandResult icarusRun(const TempDir& dir, const std::string& top, const std::string& plusargs) {

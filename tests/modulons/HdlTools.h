@@ -12,7 +12,8 @@ namespace plovix::testing {
 std::string verilogModels();
 std::string vhdlModels();
 
-// Icarus Verilog: compiles the files with the models as library into dir/<top>.vvp; runs it with plusargs.
+// Icarus Verilog: compiles the files with the models as library into dir/<top>.vvp, with every warning but
+// the ones about instance ports left open (the models' optional inputs); runs it with plusargs.
 CommandResult icarusCompile(const TempDir& dir, const std::vector<std::string>& files,
                             const std::string& top);
 CommandResult icarusRun(const TempDir& dir, const std::string& top, const std::string& plusargs = "");

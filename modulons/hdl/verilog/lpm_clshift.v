@@ -18,12 +18,24 @@ module lpm_clshift #(
 `ifdef YOSYS
   // Yosys has no pulled nets; its hierarchy pass gives an unconnected input the default declared here.
   input direction = 1'b0,
-`else
-  // An unconnected input is pulled to its default.
+`elsif VERILATOR
+  // In Verilator the ports themselves are pulled.
   input tri0 direction,
+`else
+  // Simulators pull the nets the ports feed (below), so that a connected port stays an input.
+  input direction,
 `endif
   output [lpm_width-1:0] result,
   output overflow, underflow);
+
+  // The inputs with their defaults when unconnected.
+`ifdef YOSYS
+  wire direction_p = direction;
+`elsif VERILATOR
+  wire direction_p = direction;
+`else
+  tri0 direction_p = direction;
+`endif
 
   // String parameters are compared with literals of other widths; those comparisons are meant.
   /* verilator lint_off WIDTH */
@@ -48,7 +60,7 @@ module lpm_clshift #(
   wire [lpm_width-1:0] rotated_left = (data << turn) | (data >> back_turn);
   wire [lpm_width-1:0] rotated_right = (data >> turn) | (data << back_turn);
 
-  assign result = rotate ? (direction ? rotated_right : rotated_left) : (direction ? right : left);
-  assign overflow = !rotate && !direction && back != data;
-  assign underflow = !rotate && direction && right == fill && data != fill;
+  assign result = rotate ? (direction_p ? rotated_right : rotated_left) : (direction_p ? right : left);
+  assign overflow = !rotate && !direction_p && back != data;
+  assign underflow = !rotate && direction_p && right == fill && data != fill;
 endmodule

@@ -20,13 +20,26 @@ module lpm_mult #(
   input clock = 1'b0,
   input clken = 1'b1,
   input aclr = 1'b0,
-`else
-  // An unconnected input is pulled to its default.
+`elsif VERILATOR
+  // In Verilator the ports themselves are pulled.
   input tri0 clock,
   input tri1 clken,
   input tri0 aclr,
+`else
+  // Simulators pull the nets the ports feed (below), so that a connected port stays an input.
+  input clock, clken, aclr,
 `endif
   output [lpm_widthp-1:0] result);
+
+  // The inputs with their defaults when unconnected.
+`ifdef YOSYS
+  wire clock_p = clock, clken_p = clken, aclr_p = aclr;
+`elsif VERILATOR
+  wire clock_p = clock, clken_p = clken, aclr_p = aclr;
+`else
+  tri0 clock_p = clock, aclr_p = aclr;
+  tri1 clken_p = clken;
+`endif
 
   // String parameters are compared with literals of other widths; those comparisons are meant.
   /* verilator lint_off WIDTH */
@@ -52,15 +65,15 @@ module lpm_mult #(
   generate
     for (k = 1; k <= lpm_pipeline; k = k + 1) begin : pipeline
       reg [lpm_widthp-1:0] q;
-      always @(posedge clock or posedge aclr)
-        if (aclr) q <= {lpm_widthp{1'b0}};
-        else if (clken) q <= stages[(k-1)*lpm_widthp +: lpm_widthp];
+      always @(posedge clock_p or posedge aclr_p)
+        if (aclr_p) q <= {lpm_widthp{1'b0}};
+        else if (clken_p) q <= stages[(k-1)*lpm_widthp +: lpm_widthp];
       assign stages[k*lpm_widthp +: lpm_widthp] = q;
     end
     if (lpm_pipeline == 0) begin : unclocked
       // Without a pipeline the clock inputs are not used.
       /* verilator lint_off UNUSEDSIGNAL */
-      wire unused = &{1'b0, clock, clken, aclr};
+      wire unused = &{1'b0, clock_p, clken_p, aclr_p};
       /* verilator lint_on UNUSEDSIGNAL */
     end
   endgenerate
