@@ -1,4 +1,5 @@
 // The four functions libvamlet.so exports to its host.
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <memory>
@@ -6,12 +7,12 @@
 #include "entry/ManagerApp.h"
 #include "entry/RunFlow.h"
 #include "entry/StandardRunSteps.h"
+#include "plovix/vamlet.h"
 #include "ui/FrontEndFactory.h"
-
-#define VAMLET_EXPORT extern "C" __attribute__((visibility("default")))
 
 namespace {
 
+// Fields are written through their offsets: the host's record need be no larger than the last text's end.
 template <class T>
 void put(unsigned char* record, size_t offset, T value) {
   std::memcpy(record + offset, &value, sizeof value);
@@ -23,21 +24,21 @@ void putText(unsigned char* record, size_t offset, const char* text) {
 
 }  // namespace
 
-VAMLET_EXPORT int32_t qlx_attributes(void* recordPointer) {
-  auto* record = static_cast<unsigned char*>(recordPointer);
-  put<uint16_t>(record, 0, 99);
-  put<uint32_t>(record, 4, 14);
-  put<uint32_t>(record, 32, 0);
-  put<uint16_t>(record, 2, 1);
-  put<uint32_t>(record, 12, 0);
-  put<uint16_t>(record, 36, 0x8000);
-  put<uint16_t>(record, 38, 0x8000);
-  putText(record, 40, "Wi&zard Manager");
-  putText(record, 105, "vamlet");
+int32_t qlx_attributes(vamlet_host_attributes* host) {
+  auto* record = reinterpret_cast<unsigned char*>(host);
+  put<uint16_t>(record, offsetof(vamlet_host_attributes, value_0), 99);
+  put<uint32_t>(record, offsetof(vamlet_host_attributes, value_4), 14);
+  put<uint32_t>(record, offsetof(vamlet_host_attributes, value_32), 0);
+  put<uint16_t>(record, offsetof(vamlet_host_attributes, value_2), 1);
+  put<uint32_t>(record, offsetof(vamlet_host_attributes, value_12), 0);
+  put<uint16_t>(record, offsetof(vamlet_host_attributes, value_36), 0x8000);
+  put<uint16_t>(record, offsetof(vamlet_host_attributes, value_38), 0x8000);
+  putText(record, offsetof(vamlet_host_attributes, menu_text), "Wi&zard Manager");
+  putText(record, offsetof(vamlet_host_attributes, module_name), "vamlet");
   return 1;
 }
 
-VAMLET_EXPORT void vamlet_launch_wizard_direct(const char* fileName) {
+void vamlet_launch_wizard_direct(const char* fileName) {
   plovix::ManagerApp& app = plovix::ManagerApp::instance();
   app.fetchProjectDirectory();
   std::unique_ptr<plovix::FrontEnd> frontEnd = plovix::makeFrontEnd(plovix::frontEndOptionsFromEnvironment());
@@ -45,11 +46,11 @@ VAMLET_EXPORT void vamlet_launch_wizard_direct(const char* fileName) {
   plovix::runManager(app, *frontEnd, steps, fileName, nullptr);
 }
 
-VAMLET_EXPORT void qlx_entry(void) {
+void qlx_entry(void) {
   vamlet_launch_wizard_direct(nullptr);
 }
 
-VAMLET_EXPORT void vamlet_launch_wizard_with_name_return(char* buffer, uint32_t size) {
+void vamlet_launch_wizard_with_name_return(char* buffer, uint32_t size) {
   vamlet_launch_wizard_direct(nullptr);
   const std::string path = plovix::ManagerApp::instance().run.outputPath();
   if (buffer == nullptr || size == 0) return;

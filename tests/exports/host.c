@@ -1,14 +1,16 @@
-/* A minimal host in C: loads libvamlet.so with dlopen and checks the attribute record and the name return. */
+/* A minimal host in C: loads libvamlet.so with dlopen and checks the attribute record and the name return. It
+ * is built in the build tree and, by the install tests, against an installed <plovix/vamlet.h>. */
 #include <dlfcn.h>
+#include <plovix/vamlet.h>
 #include <stdint.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 #include <unistd.h>
 
-typedef int32_t (*AttributesFn)(void*);
-typedef void (*NameReturnFn)(char*, uint32_t);
-typedef void (*DirectFn)(const char*);
+typedef vamlet_qlx_attributes_fn AttributesFn;
+typedef vamlet_launch_wizard_with_name_return_fn NameReturnFn;
+typedef vamlet_launch_wizard_direct_fn DirectFn;
 
 static int failures = 0;
 static int passes = 0;
@@ -23,9 +25,9 @@ static void check(int ok, const char* what) {
 }
 
 static void checkAttributes(AttributesFn attributes) {
-  unsigned char record[160];
+  _Alignas(vamlet_host_attributes) unsigned char record[160];
   memset(record, 0xFF, sizeof record);
-  check(attributes(record) == 1, "qlx_attributes returns 1");
+  check(attributes((vamlet_host_attributes*)record) == 1, "qlx_attributes returns 1");
   uint16_t u16;
   uint32_t u32;
   memcpy(&u16, record + 0, 2);
