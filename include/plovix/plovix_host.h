@@ -1,4 +1,5 @@
-/* The C interface of libplovixhost.so, the stand-in for the host's closed libraries (HDB, GE, GIO, cpt). */
+/* The C interface of libplovixhost.so, the stand-in for the host's closed libraries (HDB, GE, GIO, cpt),
+ * usable from C and C++: #include <plovix/plovix_host.h> and link with -lplovixhost (pkg-config plovix). */
 #ifndef PLOVIX_HOST_H
 #define PLOVIX_HOST_H
 
@@ -13,9 +14,16 @@ PLOVIX_HOST_API int hrw_get_project_tree_id(void);
 PLOVIX_HOST_API int hrw_get_root_dir(int project_id, char* buffer, int capacity);
 PLOVIX_HOST_API int hrw_get_full_path_name(int project_id, char* buffer, int capacity);
 
-/* GE: library paths, ';'-separated directory lists (null when there are none). */
+/* GE: library paths, ';'-separated directory lists (null when there are none). The user library path is
+ * PLOVIX_USER_LIB_PATH; the host library path is PLOVIX_LIB_PATH when it is set, else the bundled modulon
+ * library. */
 PLOVIX_HOST_API const char* ge_get_user_lib_path(void);
 PLOVIX_HOST_API const char* ge_get_qelvix_lib_path(void);
+
+/* The folders where the bundled modulon library is looked for, ';'-separated in the order they are tried:
+ * share/plovix/modulons beside the install that holds this library, and, for a library in its build tree, the
+ * build tree's copy. The first that exists is the default host library path. */
+PLOVIX_HOST_API const char* ge_get_bundled_lib_candidates(void);
 
 /* cpt: receives the native-language copy of a design text. */
 PLOVIX_HOST_API int cpt_zpip_write_file(const char* path, const char* text, int flags, int reserved);
