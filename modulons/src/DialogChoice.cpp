@@ -8,9 +8,7 @@
 #include <cstdlib>
 #include <iostream>
 
-#ifdef PLOVIX_WIZARD_QT
-#include "WindowDialog.h"
-#endif
+#include "WindowModule.h"
 
 namespace plovix::wizard {
 
@@ -38,14 +36,10 @@ bool hasDisplay() {
 
 ValueDialog* DialogChoice::dialogFor(const PluginArguments& arguments) {
   if (!arguments.assignments.empty()) return nullptr;
-#ifdef PLOVIX_WIZARD_QT
-  if (hasDisplay()) {
-    dialog_ = makeWindowDialog();
-    return dialog_.get();
-  }
-#else
-  (void)hasDisplay;
-#endif
+  // The window needs a display and the window module (it comes with the Qt front end); without them the
+  // terminal is asked.
+  if (hasDisplay()) dialog_ = loadWindowDialog();
+  if (dialog_ != nullptr) return dialog_.get();
   if (isatty(STDIN_FILENO)) {
     dialog_ = std::make_unique<ForegroundPrompts>();
     return dialog_.get();

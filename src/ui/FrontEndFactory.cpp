@@ -10,7 +10,7 @@
 #include "base/TextHelpers.h"
 #include "ui/BatchFrontEnd.h"
 #include "ui/ConsoleFrontEnd.h"
-#include "ui/QtFrontEndHook.h"
+#include "ui/QtModule.h"
 
 namespace plovix {
 
@@ -37,14 +37,6 @@ FrontEndOptions frontEndOptionsFromEnvironment() {
   return options;
 }
 
-bool qtFrontEndAvailable() {
-#ifdef PLOVIX_HAVE_QT
-  return true;
-#else
-  return false;
-#endif
-}
-
 namespace {
 
 // Whether Qt can open windows here: a display, or a platform plug-in chosen explicitly (offscreen, say).
@@ -57,21 +49,40 @@ FrontEndKind terminalOrBatch() {
   return isatty(STDIN_FILENO) ? FrontEndKind::kConsole : FrontEndKind::kBatch;
 }
 
+// TODO(rebase): these notes move into the message table.
+std::string qtNote(const QtModuleLoad& load, bool usingConsole) {
+  const std::string instead =
+      std::string("; using the ") + (usingConsole ? "console" : "batch") + " front end instead";
+  switch (load.failure) {
+    case QtModuleLoad::Failure::kNotInstalled:
+      return "the Qt front end is not installed (looked in " + load.detail + ")" + instead;
+    case QtModuleLoad::Failure::kOtherVersion:
+      return "the Qt front end " + load.detail + " belongs to another version of plovix" + instead;
+    default:
+      return "the Qt front end cannot be loaded: " + load.detail + instead;
+  }
+}
+
 }  // namespace
 
 std::unique_ptr<FrontEnd> makeFrontEnd(const FrontEndOptions& options) {
   FrontEndKind kind = options.kind;
   if (kind == FrontEndKind::kAutomatic) {
-    kind = displayAvailable() && qtFrontEndAvailable() ? FrontEndKind::kQt : terminalOrBatch();
-  } else if (kind == FrontEndKind::kQt && !(displayAvailable() && qtFrontEndAvailable())) {
-    // Asking for windows where none can open falls back to the terminal instead of failing.
-    kind = terminalOrBatch();
-    std::fprintf(stderr, "plovix: %s\n",
-                 questions::qtFrontEndUnavailable(kind == FrontEndKind::kConsole).c_str());
+    kind = displayAvailable() && qtModuleInstalled() ? FrontEndKind::kQt : terminalOrBatch();
   }
-#ifdef PLOVIX_HAVE_QT
-  if (kind == FrontEndKind::kQt) return makeQtFrontEnd(options);
-#endif
+  if (kind == FrontEndKind::kQt) {
+    if (!displayAvailable()) {
+      // Asking for windows where none can open falls back to the terminal instead of failing.
+      kind = terminalOrBatch();
+      std::fprintf(stderr, "plovix: %s\n",
+                   questions::qtFrontEndUnavailable(kind == FrontEndKind::kConsole).c_str());
+    } else {
+      QtModuleLoad load = loadQtFrontEnd(options);
+      if (load.frontEnd != nullptr) return std::move(load.frontEnd);
+      kind = terminalOrBatch();
+      std::fprintf(stderr, "plovix: %s\n", qtNote(load, kind == FrontEndKind::kConsole).c_str());
+    }
+  }
   if (kind == FrontEndKind::kConsole) return std::make_unique<ConsoleFrontEnd>(options);
   return std::make_unique<BatchFrontEnd>(options);
 }

@@ -23,11 +23,9 @@ FrontEndOptions frontEndOptionsFromEnvironment();
 // Parses a PLOVIX_UI / --ui value; false when it is none of batch, console, qt.
 bool parseFrontEndKind(const std::string& text, FrontEndKind& kind);
 
-// Whether the Qt front end was built in.
-bool qtFrontEndAvailable();
-
-// The front end of the options' kind; automatic means Qt when a display is there and Qt was built, else
-// console when standard input is a terminal, else batch.
+// The front end of the options' kind; automatic means Qt when a display is there and the Qt module is
+// installed, else console when standard input is a terminal, else batch. Qt asked for where it cannot be used
+// falls back to console or batch with a note on standard error.
 std::unique_ptr<FrontEnd> makeFrontEnd(const FrontEndOptions& options);
 
 }  // namespace plovix

@@ -19,7 +19,7 @@
 #include "entry/ManagerApp.h"
 #include "entry/RunFlow.h"
 #include "entry/StandardRunSteps.h"
-#include "ui/qt/QtFrontEnd.h"
+#include "ui/QtModule.h"
 
 namespace plovix {
 
@@ -61,12 +61,17 @@ class QtPagesTest : public QObject {
 
  private:
   FrontEndOptions options;
-  std::unique_ptr<QtFrontEnd> frontEnd;
+  std::unique_ptr<FrontEnd> frontEnd;
   WizardCatalog catalog;
   WindowCorner corner;
 
  private slots:
-  void initTestCase() { frontEnd = std::make_unique<QtFrontEnd>(options); }
+  // The front end comes from the module, as the plovix command loads it.
+  void initTestCase() {
+    QtModuleLoad load = loadQtFrontEnd(options);
+    QVERIFY2(load.frontEnd != nullptr, load.detail.c_str());
+    frontEnd = std::move(load.frontEnd);
+  }
 
   void frameButtonsAndActionPage() {
     PageContext context{*frontEnd, catalog, corner, "/", ""};

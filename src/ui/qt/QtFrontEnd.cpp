@@ -4,7 +4,6 @@
 #include <QMessageBox>
 
 #include "base/Messages.h"
-#include "ui/QtFrontEndHook.h"
 #include "ui/qt/QtActionDialog.h"
 #include "ui/qt/QtBrowserDialog.h"
 #include "ui/qt/QtModulonDialog.h"
@@ -60,10 +59,6 @@ PageResult QtFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& 
   page.open(context);
   QtBrowserDialog dialog(page, context);
   return dialog.run();
-}
-
-std::unique_ptr<FrontEnd> makeQtFrontEnd(const FrontEndOptions& options) {
-  return std::make_unique<QtFrontEnd>(options);
 }
 
 }  // namespace plovix
