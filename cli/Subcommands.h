@@ -7,6 +7,11 @@
 
 namespace plovix {
 
+// Whether there is a modulon library to use: a library path that the user set (even an empty one), a user
+// library path, or the bundled library found beside the install or in the build tree. When there is none,
+// reports so, naming the places looked in, and gives false.
+bool modulonLibraryFound(UserInterface& ui);
+
 // Prints the catalog as a tab-separated table on standard output; the exit status.
 int listModulons(UserInterface& ui);
 

@@ -7,6 +7,7 @@
 #include "entry/ManagerApp.h"
 #include "entry/RunFlow.h"
 #include "entry/StandardRunSteps.h"
+#include "ui/BatchFrontEnd.h"
 
 int main(int argc, char** argv) {
   plovix::CommandLine commandLine;
@@ -19,9 +20,15 @@ int main(int argc, char** argv) {
       break;
   }
 
+  if (commandLine.listModulons || !commandLine.renderSymbol.empty()) {
+    // Sub-commands never open a window: their messages go to standard error.
+    plovix::BatchFrontEnd messages(commandLine.frontEnd);
+    if (!commandLine.renderSymbol.empty()) return plovix::renderSymbol(messages, commandLine.renderSymbol);
+    return plovix::modulonLibraryFound(messages) ? plovix::listModulons(messages) : 1;
+  }
+
   std::unique_ptr<plovix::FrontEnd> frontEnd = plovix::makeFrontEnd(commandLine.frontEnd);
-  if (commandLine.listModulons) return plovix::listModulons(*frontEnd);
-  if (!commandLine.renderSymbol.empty()) return plovix::renderSymbol(*frontEnd, commandLine.renderSymbol);
+  if (!plovix::modulonLibraryFound(*frontEnd)) return 1;
 
   plovix::ManagerApp& app = plovix::ManagerApp::instance();
   app.restoreDirectoryAtExit = false;
