@@ -7,6 +7,7 @@ packages=(
   qt6-base-dev xvfb xauth librsvg2-bin
   ghdl iverilog verilator yosys
   python3 tmux
+  dpkg-dev file pkgconf lintian
 )
 missing=()
 for p in "${packages[@]}"; do
