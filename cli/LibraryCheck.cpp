@@ -4,6 +4,7 @@
 
 #include "Subcommands.h"
 #include "base/HostQueries.h"
+#include "base/Report.h"
 #include "plovix_host.h"
 
 namespace plovix {
@@ -15,9 +16,7 @@ bool modulonLibraryFound(UserInterface& ui) {
   std::string places = ge_get_bundled_lib_candidates();
   for (size_t at = places.find(';'); at != std::string::npos; at = places.find(';', at))
     places.replace(at, 1, ", ");
-  // TODO(rebase): this text moves into the message table.
-  ui.report("No modulon library found: the bundled modulons are not in " + places +
-            ".\nName a library with --lib-path or PLOVIX_LIB_PATH.");
+  reportError(ui, Msg::kNoModulonLibrary, places);
   return false;
 }
 

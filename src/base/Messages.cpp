@@ -130,11 +130,19 @@ constexpr Row kTable[] = {
     {Msg::kCnxNoLogical, "Valid logical value not found."},
     {Msg::kInvalidInformationBlock, "Ignored invalid information block in line %s in file %s -- %s"},
     {Msg::kInvalidSymbolFile, "File %s is not a valid symbol file (line %s)."},
-    {Msg::kQtFrontEndUnavailable,
-     "the Qt front end needs a display and a build with Qt 6; using the %s front end instead"},
+    {Msg::kQtFrontEndUnavailable, "the Qt front end needs a display; using the %s front end instead"},
     {Msg::kMakerNotice, "plovix is free software; the files it generates are yours to use and share."},
     {Msg::kOverwriteDeclined, "overwrite declined"},
     {Msg::kNotWrittenByHost, "the host library did not write the file"},
+    {Msg::kQtFrontEndNotInstalled,
+     "the Qt front end is not installed (no %s in %s; it comes with the plovix-qt package); using the %s "
+     "front end instead"},
+    {Msg::kQtFrontEndNotLoaded, "the Qt front end cannot be loaded: %s; using the %s front end instead"},
+    {Msg::kQtFrontEndOtherVersion,
+     "the Qt front end %s belongs to another version of plovix; using the %s front end instead"},
+    {Msg::kNoModulonLibrary,
+     "No modulon library found: the bundled modulons are not in %s.\nName a library with --lib-path or "
+     "PLOVIX_LIB_PATH."},
 };
 
 // Every message has its row, at the index of its number.

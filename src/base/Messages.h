@@ -107,6 +107,10 @@ enum class Msg : int {
   kMakerNotice,
   kOverwriteDeclined,
   kNotWrittenByHost,
+  kQtFrontEndNotInstalled,
+  kQtFrontEndNotLoaded,
+  kQtFrontEndOtherVersion,
+  kNoModulonLibrary,
 
   kMessageCount
 };

@@ -5,8 +5,10 @@
 
 #include <cstdio>
 
+#include "InstallLayout.h"
 #include "base/FileSystem.h"
 #include "base/QuestionTexts.h"
+#include "base/Report.h"
 #include "base/TextHelpers.h"
 #include "ui/BatchFrontEnd.h"
 #include "ui/ConsoleFrontEnd.h"
@@ -49,17 +51,16 @@ FrontEndKind terminalOrBatch() {
   return isatty(STDIN_FILENO) ? FrontEndKind::kConsole : FrontEndKind::kBatch;
 }
 
-// TODO(rebase): these notes move into the message table.
-std::string qtNote(const QtModuleLoad& load, bool usingConsole) {
-  const std::string instead =
-      std::string("; using the ") + (usingConsole ? "console" : "batch") + " front end instead";
+// The note on standard error when the Qt module could not give a front end.
+std::string qtModuleNote(const QtModuleLoad& load, bool usingConsole) {
+  const std::string instead = usingConsole ? "console" : "batch";
   switch (load.failure) {
     case QtModuleLoad::Failure::kNotInstalled:
-      return "the Qt front end is not installed (looked in " + load.detail + ")" + instead;
+      return errorMessage(Msg::kQtFrontEndNotInstalled, PLOVIX_QT_MODULE_FILE, load.detail, instead);
     case QtModuleLoad::Failure::kOtherVersion:
-      return "the Qt front end " + load.detail + " belongs to another version of plovix" + instead;
+      return errorMessage(Msg::kQtFrontEndOtherVersion, load.detail, instead);
     default:
-      return "the Qt front end cannot be loaded: " + load.detail + instead;
+      return errorMessage(Msg::kQtFrontEndNotLoaded, load.detail, instead);
   }
 }
 
@@ -80,7 +81,7 @@ std::unique_ptr<FrontEnd> makeFrontEnd(const FrontEndOptions& options) {
       QtModuleLoad load = loadQtFrontEnd(options);
       if (load.frontEnd != nullptr) return std::move(load.frontEnd);
       kind = terminalOrBatch();
-      std::fprintf(stderr, "plovix: %s\n", qtNote(load, kind == FrontEndKind::kConsole).c_str());
+      std::fprintf(stderr, "plovix: %s\n", qtModuleNote(load, kind == FrontEndKind::kConsole).c_str());
     }
   }
   if (kind == FrontEndKind::kConsole) return std::make_unique<ConsoleFrontEnd>(options);
