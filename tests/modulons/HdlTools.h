@@ -8,9 +8,15 @@
 
 namespace plovix::testing {
 
-// The bundled model folders in the build tree.
+// The bundled Verilog models' folder in the build tree.
 std::string verilogModels();
-std::string vhdlModels();
+
+// Every bundled model of one language ("verilog" or "vhdl") on disk, sorted by name; for VHDL the package
+// lpm_components first, as the models need it.
+std::vector<std::string> modelFiles(const std::string& language);
+
+// The command of docs/hdl-models.md that analyses every VHDL model into library lpm in workDir.
+std::string ghdlLibraryCommand(const std::string& workDir);
 
 // Icarus Verilog: compiles the files with the models as library into dir/<top>.vvp, with every warning but
 // the ones about instance ports left open (the models' optional inputs); runs it with plusargs.
@@ -23,7 +29,9 @@ CommandResult icarusRun(const TempDir& dir, const std::string& top, const std::s
 CommandResult verilatorLint(const TempDir& dir, const std::vector<std::string>& files,
                             const std::string& top);
 
-// Yosys: reads the files, takes the models the design needs from the library and checks the hierarchy.
+// Yosys: reads the files, takes the models the design needs from the library, elaborates top with its
+// parameters and checks that every wire has a driver (so that the inputs a variation leaves unconnected took
+// their defaults).
 CommandResult yosysCheck(const TempDir& dir, const std::vector<std::string>& files, const std::string& top);
 
 // GHDL (VHDL-2008): the models go into library lpm (with package lpm_components) and, for default binding,

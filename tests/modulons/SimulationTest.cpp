@@ -16,7 +16,8 @@ struct Variation {
 };
 
 // tb_<bench>.v and tb_<bench>.vhd; a bench with vectors reads vectors/<bench>.vec (made by
-// reference/make_vectors.py) through benches/common, the others check their own sums.
+// reference/make_vectors.py) through benches/common, the others check their own sums. A bench without
+// variations instantiates library modules itself.
 struct Bench {
   const char* bench;
   std::vector<Variation> variations;
@@ -33,6 +34,7 @@ const Bench kBenches[] = {
      false},
     {"ram32", {{"ram32", "lpm_ram_dq", "LPM_WIDTH=8 LPM_WIDTHAD=5"}}, false},
     {"ticker", {{"ticker", "count_compare", "LPM_WIDTH=4 MATCH_VALUE=5 ACLR=YES"}}, false},
+    {"defaults", {}},
     {"inv", {{"inv1", "lpm_inv", "LPM_WIDTH=1"}, {"inv64", "lpm_inv", "LPM_WIDTH=64"}}},
     {"gates",
      {{"and64x3", "lpm_and", "LPM_WIDTH=64 LPM_SIZE=3"},

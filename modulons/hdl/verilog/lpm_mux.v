@@ -1,21 +1,41 @@
 // Multiplexer library module: selects one of lpm_size words of the flattened data bus (word k at bits k*lpm_width).
 // String parameters are compared with literals of other widths; those comparisons are meant.
 /* verilator lint_off WIDTH */
-module lpm_mux (data, sel, clock, clken, aclr, result);
-  parameter lpm_width = 1;
-  parameter lpm_size = 2;
-  parameter lpm_widths = 1;
-  parameter lpm_pipeline = 0;
-  parameter lpm_type = "LPM_MUX";
-  parameter lpm_hint = "UNUSED";
+module lpm_mux #(
+  parameter lpm_width = 1,
+  parameter lpm_size = 2,
+  parameter lpm_widths = 1,
+  parameter lpm_pipeline = 0,
+  /* verilator lint_off UNUSEDPARAM */
+  parameter lpm_type = "LPM_MUX",
+  parameter lpm_hint = "UNUSED"
+  /* verilator lint_on UNUSEDPARAM */
+) (
+  input [lpm_size*lpm_width-1:0] data,
+  input [lpm_widths-1:0] sel,
+`ifdef YOSYS
+  input clken = 1'b1, input clock = 1'b0, input aclr = 1'b0,
+`elsif VERILATOR
+  input tri1 clken,
+  input tri0 clock, aclr,
+`else
+  input clken, clock, aclr,
+`endif
+  output [lpm_width-1:0] result);
 
-  input [lpm_size*lpm_width-1:0] data;
-  input [lpm_widths-1:0] sel;
-  input clock, clken, aclr;
-  output [lpm_width-1:0] result;
-
-  tri0 clock, aclr;
-  tri1 clken;
+  // Unconnected inputs: clken 1, clock and aclr 0. The _p nets carry the inputs with those defaults: nets
+  // pulled to them, so that a connected port stays an input; where a tool has no pulled nets (Yosys) or pulls
+  // only ports (Verilator), the ports themselves carry the defaults (docs/hdl-models.md).
+`ifdef YOSYS
+  wire clken_p = clken;
+  wire clock_p = clock, aclr_p = aclr;
+`elsif VERILATOR
+  wire clken_p = clken;
+  wire clock_p = clock, aclr_p = aclr;
+`else
+  tri1 clken_p = clken;
+  tri0 clock_p = clock, aclr_p = aclr;
+`endif
 
   reg [lpm_width-1:0] now;
   integer k;
@@ -26,14 +46,13 @@ module lpm_mux (data, sel, clock, clken, aclr, result);
   end
 
   localparam depth = (lpm_pipeline > 0) ? lpm_pipeline : 1;
-  reg [lpm_width-1:0] stage [0:depth-1];
-  integer i;
-  always @(posedge clock or posedge aclr)
-    if (aclr) for (i = 0; i < depth; i = i + 1) stage[i] <= {lpm_width{1'b0}};
-    else if (clken) begin
-      stage[0] <= now;
-      for (i = 1; i < depth; i = i + 1) stage[i] <= stage[i-1];
-    end
+  // The stages side by side, the newest lowest; chain adds the current value below them.
+  reg [depth*lpm_width-1:0] stage = {(depth*lpm_width){1'b0}};
+  wire [(depth+1)*lpm_width-1:0] chain = {stage, now};
+  always @(posedge clock_p or posedge aclr_p)
+    if (aclr_p) stage <= {(depth*lpm_width){1'b0}};
+    else if (clken_p) stage <= chain[depth*lpm_width-1:0];
 
-  assign result = (lpm_pipeline > 0) ? stage[depth-1] : now;
+  assign result = (lpm_pipeline > 0) ? chain[(depth+1)*lpm_width-1 -: lpm_width] : now;
 endmodule
+/* verilator lint_on WIDTH */
