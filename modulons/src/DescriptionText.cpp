@@ -63,6 +63,16 @@ void DescriptionText::connect(const std::string& driven, Bounds drivenBounds, co
   line("CONNECT: " + driven + " " + boundsText(drivenBounds) + " " + driver + " " + boundsText(driverBounds));
 }
 
+void DescriptionText::passedInput(const std::string& name, Bounds bounds, const std::string& defaultValue) {
+  usedPort(name, bounds, "INPUT", defaultValue);
+  connect("@" + name, bounds, name, bounds);
+}
+
+void DescriptionText::passedOutput(const std::string& name, Bounds bounds) {
+  usedPort(name, bounds, "OUTPUT");
+  connect(name, bounds, "@" + name, bounds);
+}
+
 void DescriptionText::symbol(const std::string& element) {
   line("SYMBOL: " + element);
 }

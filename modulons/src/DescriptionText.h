@@ -31,6 +31,10 @@ class DescriptionText {
   // driven is fed by driver; a driver may be a constant (VCC, GND, a number) and may start with "!".
   void connect(const std::string& driven, Bounds drivenBounds, const std::string& driver,
                Bounds driverBounds);
+  // A variation port wired straight to the main module's port of the same name: an input feeding it, an
+  // output fed by it.
+  void passedInput(const std::string& name, Bounds bounds, const std::string& defaultValue = "NODEFVAL");
+  void passedOutput(const std::string& name, Bounds bounds);
   // One SYMBOL: statement; the text after the keyword as written.
   void symbol(const std::string& element);
 

@@ -4,11 +4,13 @@
 namespace plovix::wizard {
 
 std::vector<Modulon> bundledModulons() {
-  return {counterModulon(),      addSubModulon(),    compareModulon(), muxModulon(),
-          decodeModulon(),       constantModulon(),  ramModulon(),     shiftRegisterModulon(),
-          countCompareModulon(), inverterModulon(),  andModulon(),     orModulon(),
-          xorModulon(),          busDriverModulon(), shifterModulon(), multiplierModulon(),
-          dividerModulon(),      absoluteModulon()};
+  return {counterModulon(),      addSubModulon(),      compareModulon(),  muxModulon(),
+          decodeModulon(),       constantModulon(),    ramModulon(),      shiftRegisterModulon(),
+          countCompareModulon(), inverterModulon(),    andModulon(),      orModulon(),
+          xorModulon(),          busDriverModulon(),   shifterModulon(),  multiplierModulon(),
+          dividerModulon(),      absoluteModulon(),    flipFlopModulon(), latchModulon(),
+          romModulon(),          dualPortRamModulon(), fifoModulon(),     dualClockFifoModulon(),
+          fifoLevelModulon()};
 }
 
 const Modulon* findModulon(const std::vector<Modulon>& modulons, const std::string& name) {

@@ -33,6 +33,13 @@ Modulon shifterModulon();
 Modulon multiplierModulon();
 Modulon dividerModulon();
 Modulon absoluteModulon();
+Modulon flipFlopModulon();
+Modulon latchModulon();
+Modulon romModulon();
+Modulon dualPortRamModulon();
+Modulon fifoModulon();
+Modulon dualClockFifoModulon();
+Modulon fifoLevelModulon();
 
 // The smallest number of bits that can count to value - 1 (at least 1).
 long long bitsFor(long long value);

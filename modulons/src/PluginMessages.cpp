@@ -92,6 +92,33 @@ std::string flagNeedsDirectionText(const std::string& name, const std::string& d
   return name + "=YES needs DIRECTION=" + directions + ": the flag is only raised by a shift that way";
 }
 
+std::string setValueTooWideText(const std::string& name, long long value, long long width) {
+  return name + "=" + number(value) + " does not fit LPM_WIDTH=" + number(width) +
+         "; allowed values: -1 (all ones) or a whole number from 0 to " + number((1LL << width) - 1);
+}
+
+std::string loadNeedsToggleText() {
+  return "SLOAD=YES needs LPM_FFTYPE=TFF: a D flip-flop loads data at every clock edge anyway";
+}
+
+std::string missingFileText() {
+  return "LPM_FILE must name the initialisation file (Intel HEX, or the plain format of hexadecimal words)";
+}
+
+std::string fileNameText() {
+  return "a file name with / between folders and no backslash";
+}
+
+std::string readEnableNeedsClockText() {
+  return "RDEN and RDCLKEN need LPM_RDADDRESS_CONTROL=REGISTERED or LPM_OUTDATA=REGISTERED: an unregistered "
+         "read has no read clock to enable";
+}
+
+std::string levelAboveDepthText(const std::string& name, long long level, long long words) {
+  return name + "=" + number(level) + " does not fit LPM_NUMWORDS=" + number(words) +
+         "; allowed values: a whole number from 0 to " + number(words);
+}
+
 std::string usageText(const std::string& modulonLines) {
   return "Usage: plovix-wizard -m MODULON OUTPUT [-n] [-symbol] [NAME=VALUE ...] [-xR -yB -p2 -hTID]\n"
          "       plovix-wizard -m MODULON --describe\n"

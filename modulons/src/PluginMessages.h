@@ -28,6 +28,13 @@ std::string productTooWideText(long long widthp, long long fullWidth);
 std::string needsPipelineText(const std::string& name);
 std::string rotateHasNoFlagText(const std::string& name);
 std::string flagNeedsDirectionText(const std::string& name, const std::string& directions);
+// The storage and memory modulons.
+std::string setValueTooWideText(const std::string& name, long long value, long long width);
+std::string loadNeedsToggleText();
+std::string missingFileText();
+std::string fileNameText();
+std::string readEnableNeedsClockText();
+std::string levelAboveDepthText(const std::string& name, long long level, long long words);
 
 // The usage text of --help; modulonLines holds one line per modulon.
 std::string usageText(const std::string& modulonLines);

@@ -40,6 +40,17 @@ const Case kCases[] = {
     {"lpm_divide", "LPM_WIDTHN=64 LPM_WIDTHD=3 LPM_NREPRESENTATION=SIGNED LPM_PIPELINE=2 ACLR=YES",
      "LPM_REMAINDERPOSITIVE=FALSE", false},
     {"lpm_abs", "LPM_WIDTH=64", "OVERFLOW=NO", false},
+    {"lpm_ff", "LPM_WIDTH=64 ENABLE=YES ACLR=YES ASET=YES LPM_AVALUE=5 SSET=YES SCLR=YES ALOAD=YES",
+     "LPM_FFTYPE=TFF", false},
+    {"lpm_latch", "LPM_WIDTH=1 ACLR=YES ASET=YES", "LPM_WIDTH=64", false},
+    {"lpm_rom", "LPM_WIDTH=64 LPM_WIDTHAD=3 LPM_FILE=rom.txt", "LPM_OUTDATA=REGISTERED", false},
+    {"lpm_ram_dp", "LPM_WIDTH=1 LPM_WIDTHAD=7 WRCLKEN=YES RDEN=YES RDCLKEN=YES", "LPM_OUTDATA=REGISTERED",
+     false},
+    {"scfifo", "LPM_WIDTH=64 LPM_NUMWORDS=5 ACLR=YES SCLR=YES USEDW=YES ALMOST_FULL_VALUE=4",
+     "LPM_SHOWAHEAD=ON", false},
+    {"dcfifo", "LPM_WIDTH=1 LPM_NUMWORDS=32 ACLR=YES RDFULL=YES RDUSEDW=YES WREMPTY=YES WRUSEDW=YES",
+     "RDSYNC_DELAYPIPE=2", false},
+    {"fifo_level", "LPM_WIDTH=12 LPM_NUMWORDS=64 LEVEL=60 USEDW=YES", "LEVEL=64", false},
 };
 
 const char* const kLanguages[] = {"thdl", "vhdl", "verilog"};
@@ -95,6 +106,8 @@ TEST_P(BatchCreateTest, CreatesAndEditsTheVariationAndTheToolsAcceptIt) {
   if (kept != pair.substr(0, pair.find('='))) {
     EXPECT_EQ(storedValue(after, kept), storedValue(before, kept));
   }
+
+  dir.write("rom.txt", "0\n");  // the initialisation file of the ROM's row, which Yosys reads
 
   if (language == "verilog") {
     if (!haveProgram("iverilog") || !haveProgram("verilator") || !haveProgram("yosys"))
