@@ -1,6 +1,7 @@
 // Variations made by batch runs, simulated cycle by cycle against the test benches in both languages.
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <vector>
 
 #include "HdlTools.h"
@@ -72,6 +73,35 @@ const Bench kBenches[] = {
     {"decode",
      {{"dec3x6", "lpm_decode", "LPM_WIDTH=3 LPM_DECODES=6 ENABLE=YES"},
       {"dec1x2", "lpm_decode", "LPM_WIDTH=1 LPM_DECODES=2"}}},
+    {"storage",
+     {{"dff64", "lpm_ff",
+       "LPM_WIDTH=64 ENABLE=YES ACLR=YES ASET=YES ALOAD=YES SCLR=YES SSET=YES LPM_SVALUE=1234567"},
+      {"tff1", "lpm_ff", "LPM_WIDTH=1 LPM_FFTYPE=TFF ENABLE=YES ACLR=YES SSET=YES LPM_SVALUE=0 SLOAD=YES"},
+      {"latch64", "lpm_latch", "LPM_WIDTH=64 ACLR=YES ASET=YES LPM_AVALUE=2147483647"},
+      {"latch1", "lpm_latch", "LPM_WIDTH=1"}}},
+    {"memory",
+     {{"rom_hex", "lpm_rom", "LPM_WIDTH=64 LPM_WIDTHAD=4 LPM_NUMWORDS=12 LPM_FILE=memory.hex"},
+      {"rom_txt", "lpm_rom",
+       "LPM_WIDTH=1 LPM_WIDTHAD=5 LPM_FILE=memory.txt LPM_ADDRESS_CONTROL=UNREGISTERED "
+       "LPM_OUTDATA=REGISTERED"},
+      {"ramdp64", "lpm_ram_dp", "LPM_WIDTH=64 LPM_WIDTHAD=4 WRCLKEN=YES RDCLKEN=YES"},
+      {"ramdp1", "lpm_ram_dp",
+       "LPM_WIDTH=1 LPM_WIDTHAD=3 LPM_NUMWORDS=6 LPM_RDADDRESS_CONTROL=UNREGISTERED LPM_OUTDATA=REGISTERED "
+       "RDEN=YES"}}},
+    {"fifo",
+     {{"fifo64", "scfifo",
+       "LPM_WIDTH=64 LPM_NUMWORDS=5 ACLR=YES SCLR=YES USEDW=YES ALMOST_FULL_VALUE=4 ALMOST_EMPTY_VALUE=2"},
+      {"fifo1", "scfifo", "LPM_WIDTH=1 LPM_NUMWORDS=8 LPM_SHOWAHEAD=ON USEDW=YES"},
+      {"dcfifo_sync", "dcfifo",
+       "LPM_WIDTH=64 LPM_NUMWORDS=8 LPM_SHOWAHEAD=ON ACLR=YES RDSYNC_DELAYPIPE=2 WRSYNC_DELAYPIPE=3 "
+       "RDFULL=YES "
+       "RDUSEDW=YES WREMPTY=YES WRUSEDW=YES"},
+      {"level", "fifo_level", "LPM_WIDTH=8 LPM_NUMWORDS=8 LEVEL=6 ACLR=YES USEDW=YES"}}},
+    // The dual-clock FIFO on two unrelated clocks, checked by the bench's own scoreboard.
+    {"dcfifo_async",
+     {{"dcfifo_async", "dcfifo",
+       "LPM_WIDTH=16 LPM_NUMWORDS=16 RDFULL=YES RDUSEDW=YES WREMPTY=YES WRUSEDW=YES"}},
+     false},
 };
 
 class SimulationTest : public ::testing::TestWithParam<std::tuple<Bench, bool>> {};
@@ -101,6 +131,12 @@ TEST_P(SimulationTest, BenchPasses) {
   }
   files.push_back(benches + "/" + top + (verilog ? ".v" : ".vhd"));
   const std::string vectors = benches + "/../vectors/" + b.bench + ".vec";
+  // The files a variation reads (a memory's initialisation files) lie beside the vectors as <bench>.*; the
+  // simulators look for them in their working directory.
+  for (const auto& entry : std::filesystem::directory_iterator(benches + "/../vectors")) {
+    if (entry.path().stem() == b.bench && entry.path().extension() != ".vec")
+      std::filesystem::copy_file(entry.path(), dir.path(entry.path().filename()));
+  }
 
   if (verilog) {
     const CommandResult compiled = icarusCompile(dir, files, top);
