@@ -160,10 +160,11 @@ void CatalogLoader::readSectionLine(const std::string& record, int line) {
   section_ = textInBrackets(record, start);
 }
 
-void CatalogLoader::processRecord(const std::string& record, int line) {
-  const std::string trimmed = trimText(record);
-  if (startsWith(trimmed, "[")) {
-    readSectionLine(trimmed, line);
+void CatalogLoader::processRecord(const std::string& untrimmedRecord, int line) {
+  // Trimmed once: a record that a lone "+" line began starts with a blank, which no later step may keep.
+  const std::string record = trimText(untrimmedRecord);
+  if (startsWith(record, "[")) {
+    readSectionLine(record, line);
     return;
   }
 

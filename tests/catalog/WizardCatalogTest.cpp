@@ -101,6 +101,17 @@ TEST_F(CatalogTest, VariantsOfOneNameAndSectionGetTheirCommandLines) {
   EXPECT_EQ(catalog.findCommandLine("foo"), "");
 }
 
+// A lone "+" line leaves a blank before the next record; the record is trimmed, so the name has none.
+TEST_F(CatalogTest, ARecordBegunByALonePlusIsTrimmed) {
+  dir.write("a_wizard.lst", "MUX=one\n+\nMUX=two\n");
+  load("@");
+  EXPECT_EQ(names(), (Strings{"MUX(one)", "MUX(two)"}));
+  dir.write("a_wizard.lst", "+\n  MUX [-No2D]=run\n");
+  load("@");
+  EXPECT_EQ(catalog.findCommandLine("MUX"), "run");
+  EXPECT_FALSE(catalog.supports2D("MUX"));
+}
+
 // A duplicate found before a variant still bumps the primary's number; later ones then start afresh.
 TEST_F(CatalogTest, VariantRuleFollowsTheNumbersExactly) {
   dir.write("a_wizard.lst", "X=a\nX=b\nX=c\nX=b\nX=d\n");
