@@ -115,13 +115,18 @@ bool generateVariationFiles(ManagerApp& app, UserInterface& ui, const std::strin
   ManagerRun& run = app.run;
   if (run.description == nullptr) return true;
 
-  // The checks and the writers read the output name from the run; a THDL fallback changes its extension.
+  // The checks and the writers read the output name from the run; an accepted THDL fallback changes its
+  // extension, a declined one leaves the run as it was.
   run.directory = directoryOfPath(outputPath);
   run.fileTitle = splitPath(outputPath, PathPart::kBaseName);
   run.extension = splitPath(outputPath, PathPart::kExtension);
   const std::string basePath = run.directory + run.fileTitle;
 
-  if (run.description->uses2D && !offerThdlFallback(ui, run.extension)) return true;
+  if (run.description->uses2D) {
+    std::string extension = run.extension;
+    if (!offerThdlFallback(ui, extension)) return true;
+    run.extension = extension;
+  }
 
   const bool goOn = confirmSameNameFiles(ui, run, app.projectDirectory);
   if (goOn) {

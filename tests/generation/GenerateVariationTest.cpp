@@ -199,7 +199,7 @@ TEST_F(Generation, TwoDimensionalPortsRefusedWriteNothing) {
   ui.answers = {false};
   EXPECT_TRUE(generate());
   EXPECT_TRUE(files().empty());
-  EXPECT_EQ(app.run.extension, ".tdf");
+  EXPECT_EQ(app.run.outputPath(), dir.path("mux.vhd"));  // the name the run remembers and returns
   EXPECT_EQ(ui.boxes, Names{asked(questions::thdlFallback(), false)});
   EXPECT_EQ(app.run.outcome.exitStatus(), RunOutcome::kNotGenerated);
 }
