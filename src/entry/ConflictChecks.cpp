@@ -89,7 +89,7 @@ std::string listExistingOutputs(const ManagerRun& run, const std::string& projec
   if (symbol && fileExists(base + ".sym"))
     list += "  " + base + ".sym" + "\n" + questions::symbolUpdateNote();
   if (list.empty()) return {};
-  return questions::overwriteExistingOutputs(replaceAll(list, "/", "\\"));
+  return questions::overwriteExistingOutputs(list);
 }
 
 }  // namespace plovix

@@ -23,11 +23,11 @@ void ModulonSelectionPage::open(PageContext& context) {
 
   outputText = trimRight(outputText);
   if (outputText.empty()) outputText = directory;
-  editText = shownPath(outputText);
+  editText = outputText;
 
   libraryDirectories.clear();
   for (const std::string& library : context.catalog.userLibraryDirectories()) {
-    if (!library.empty()) libraryDirectories.push_back(shownPath(library));
+    if (!library.empty()) libraryDirectories.push_back(library);
   }
 
   const OutputKind* kind = outputKindOfExtension(extension);
@@ -57,7 +57,7 @@ SaveFileRequest ModulonSelectionPage::browseRequest(PageContext& context) const 
 }
 
 void ModulonSelectionPage::applyBrowseChoice(const std::string& chosenPath) {
-  editText = shownPath(chosenPath);
+  editText = chosenPath;
 }
 
 bool ModulonSelectionPage::pressBack(PageContext& context, const std::optional<PixelRect>& window) {

@@ -16,10 +16,6 @@ std::string absoluteDirectory(const std::string& directory) {
   return full;
 }
 
-std::string shownPath(const std::string& path) {
-  return toBackslashes(path);
-}
-
 bool createOneDirectory(const std::string& directory) {
   std::string path = toForwardSlashes(directory);
   while (path.size() > 1 && path.back() == '/') path.pop_back();

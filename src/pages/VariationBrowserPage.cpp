@@ -60,7 +60,7 @@ void VariationBrowserPage::open(PageContext& context) {
   selectedItem = -1;
   list.fill(context.ui, directory, currentPattern());
 
-  changeFileName(shownPath(baseName + extension));
+  changeFileName(baseName + extension);
   focusControl = kControlFileName;
 
   modulonItems.clear();
@@ -219,7 +219,7 @@ bool VariationBrowserPage::applyTypedText(PageContext& context, bool nextForm) {
   if (!listed) return false;
   selectedItem = -1;
   directory = splitDirectory;
-  changeFileName(shownPath(splitFile));
+  changeFileName(splitFile);
   if (plainName) selectFileTypeOf(splitPath(splitFile, PathPart::kExtension));
   lookIn.fillFor(directory);
   modulonText = modulonNamedBy(splitDirectory + splitFile);

@@ -95,7 +95,7 @@ TEST(SameNameFiles, EmptyDirectoryMeansTheProjectDirectory) {
   EXPECT_EQ(ui.boxes.size(), 1u);
 }
 
-TEST(ExistingOutputs, ListsCompanionsAndSymbolWithBackslashes) {
+TEST(ExistingOutputs, ListsCompanionsAndSymbolWithTheirPaths) {
   TempDir dir;
   ManagerRun run;
   run.directory = dir.dir();
@@ -106,10 +106,7 @@ TEST(ExistingOutputs, ListsCompanionsAndSymbolWithBackslashes) {
   dir.write("count8.inc", "");
   dir.write("count8_inst.tdf", "");  // templates are never listed
   dir.write("count8.tdf", "");       // nor the design file
-  std::string base = dir.path("count8");
-  for (char& c : base) {
-    if (c == '/') c = '\\';
-  }
+  const std::string base = dir.path("count8");
   const std::string note = errorText(Msg::kSymbolUpdateNote).data();
   const auto question = [](const std::string& list) {
     return errorMessage(Msg::kOverwriteOutputsQuestion, list);
