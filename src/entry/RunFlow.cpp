@@ -102,6 +102,14 @@ int32_t pluginResultOf(int32_t exitCode) {
   return result == 3 ? -1 : result;
 }
 
+// A design file named at the start that does not exist yet: the modulon page starts with its full path, so
+// its directory and base name, and with its language.
+void presetWithNamedFile(ModulonSelectionPage& page, const ManagerRun& run) {
+  page.outputText = fullPath(run.outputPath());
+  page.directory = directoryOfPath(page.outputText);
+  page.extension = run.extension;
+}
+
 }  // namespace
 
 void runPages(ManagerApp& app, RunSteps& steps) {
@@ -111,6 +119,7 @@ void runPages(ManagerApp& app, RunSteps& steps) {
   actionPage.notice = questions::makerNotice();
   ModulonSelectionPage modulonPage;
   modulonPage.directory = app.projectDirectory;
+  if (run.state == RunState::kModulonPage) presetWithNamedFile(modulonPage, run);
   VariationBrowserPage browserPage;
   bool rememberedCreate = false;
   run.pluginResult = 1;

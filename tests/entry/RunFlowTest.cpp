@@ -274,6 +274,18 @@ TEST_F(FirstStateTest, NameDecidesTheBoxAndThePage) {
   }
 }
 
+// A design file to create, named at the start, presets the modulon page with its path and language.
+TEST_F(FirstStateTest, MissingFilePresetsTheModulonPage) {
+  steps.modulonScript = {[this](ModulonSelectionPage& page) {
+    EXPECT_EQ(page.outputText, temp.path("new/count9.v"));
+    EXPECT_EQ(page.directory, temp.path("new/"));
+    EXPECT_EQ(page.extension, ".v");
+    return PageResult::kCancel;
+  }};
+  run(temp.path("new/../new/count9.v").c_str());
+  EXPECT_TRUE(steps.modulonScript.empty());
+}
+
 TEST_F(FirstStateTest, CapitalisedExtensionIsIllegal) {
   ui.answers = {false};
   run("count8.TDF");
