@@ -20,6 +20,9 @@ constexpr int kMargin = 8;
 constexpr int kScale = 2;  // the picture is shown at twice the drawing's size
 constexpr const char* kPinColour = "#b00000";
 constexpr const char* kParameterColour = "#1f4e8c";
+// Named before the drawing's own face: it has the metrics of Arial, which the measuring follows, and Debian
+// ships it (fonts-liberation), so the texts take the room they were measured for.
+constexpr const char* kFirstFace = "Liberation Sans";
 
 std::string num(double value) {
   char buffer[32];
@@ -143,13 +146,24 @@ std::vector<std::string> linesOf(const std::string& text) {
   return lines;
 }
 
+// A pin's name whose pin lies at its right ends at the box's edge: it is anchored at its end, so that a face
+// wider than the measured one grows away from the edge instead of across it.
+bool anchoredAtEnd(const gio::TextBody& t) {
+  return t.isPin && t.orientation != GIO_VERTICAL && t.pinPoint.x >= t.start.x + t.size.x;
+}
+
 std::string textElement(const gio::TextBody& t) {
   const std::string font = t.fontString.empty() ? "Arial,8" : t.fontString;
   const int height = heightOfFontString(font);
   const int em = emOfHeight(height), lineHeight = lineHeightOf(height);
   const std::string face = font.substr(0, font.find(','));
-  std::string out = "<text" + attr("x", t.start.x) + attr("y", t.start.y + 0.9 * em) + attr("font-size", em) +
-                    attr("font-family", (face.empty() ? std::string() : face + ", ") + "sans-serif");
+  std::string families = kFirstFace;
+  if (!face.empty() && face != kFirstFace) families += ", " + face;
+  const bool atEnd = anchoredAtEnd(t);
+  const double x = atEnd ? t.start.x + t.size.x : t.start.x;
+  std::string out = "<text" + attr("x", x) + attr("y", t.start.y + 0.9 * em) + attr("font-size", em) +
+                    attr("font-family", families + ", sans-serif");
+  if (atEnd) out += " text-anchor=\"end\"";
   if (t.textType == GIO_NEW_PROP_TEXT) out += attr("fill", std::string(kParameterColour));
   if (t.textType == GIO_MACRO_TEXT) out += " font-weight=\"bold\"";
   if (t.orientation == GIO_VERTICAL) {
@@ -162,7 +176,7 @@ std::string textElement(const gio::TextBody& t) {
     out += xmlText(lines[0]);
   } else {
     for (size_t i = 0; i < lines.size(); ++i)
-      out += "<tspan" + attr("x", t.start.x) + attr("dy", i == 0 ? 0 : lineHeight) + ">" + xmlText(lines[i]) +
+      out += "<tspan" + attr("x", x) + attr("dy", i == 0 ? 0 : lineHeight) + ">" + xmlText(lines[i]) +
              "</tspan>";
   }
   return out + "</text>\n";

@@ -4,7 +4,7 @@ set -euo pipefail
 packages=(
   build-essential cmake ninja-build clang clang-format libclang-rt-14-dev
   libgtest-dev libgmock-dev libbenchmark-dev libcli11-dev
-  qt6-base-dev xvfb xauth librsvg2-bin
+  qt6-base-dev xvfb xauth librsvg2-bin fonts-liberation
   ghdl iverilog verilator yosys
   python3 tmux
   dpkg-dev file pkgconf lintian

@@ -13,15 +13,17 @@ std::optional<std::string> checkConstant(const SettingValues& values) {
   return std::nullopt;
 }
 
-// A box with the value written in it and one output pin on its right side.
+// A box with the value written in it and one output pin on its right side. The parameter block stands at the
+// sheet's top left corner (two lines of "Arial,6", 18 pixels), so the name starts below it; the pin's name
+// starts where even the widest one, result[31..0], ends inside the box.
 void drawConstantSymbol(long long width, long long value, DescriptionText& cnx) {
   const std::string pin = pinText("result", Bounds::bus(width));
-  cnx.symbol("BOX 160 96 16 8 \"Arial,8\"");
-  cnx.symbol("RECT 16 24 128 80 SOLID THIN");
-  cnx.symbol("TEXT \"CONSTANT\" 28 32 HORIZ \"Arial,8\"");
-  cnx.symbol("TEXT \"" + std::to_string(value) + "\" 28 56 HORIZ \"Arial,10\"");
-  cnx.symbol("PINSTUB 144 56 OUT result 96 52 \"" + pin + "\" HORIZ \"Arial,8\"");
-  cnx.symbol("LINE 128 56 144 56 " + std::string(width > 1 ? "BUS" : "SOLID") + " THIN");
+  cnx.symbol("BOX 192 112 16 20 \"Arial,8\"");
+  cnx.symbol("RECT 16 40 168 100 SOLID THIN");
+  cnx.symbol("TEXT \"CONSTANT\" 28 48 HORIZ \"Arial,8\"");
+  cnx.symbol("TEXT \"" + std::to_string(value) + "\" 28 76 HORIZ \"Arial,10\"");
+  cnx.symbol("PINSTUB 184 64 OUT result 100 58 \"" + pin + "\" HORIZ \"Arial,8\"");
+  cnx.symbol("LINE 168 64 184 64 " + std::string(width > 1 ? "BUS" : "SOLID") + " THIN");
   cnx.symbol("PARAMETER \"LPM_WIDTH=" + std::to_string(width) + "/LPM_CVALUE=" + std::to_string(value) +
              "\" \"Arial,6\"");
 }

@@ -132,7 +132,7 @@ TEST_F(WizardRunTest, SymbolOnlyAndDrawnSymbol) {
   const std::string cnx = dir.read("k.cnx");
   EXPECT_EQ(cnx.rfind("GENERATION: SYMBOL_ONLY\n", 0), 0u);
   EXPECT_NE(cnx.find("SYMBOL: BOX "), std::string::npos);
-  EXPECT_NE(cnx.find("SYMBOL: PINSTUB 144 56 OUT result 96 52 \"result[8..0]\""), std::string::npos);
+  EXPECT_NE(cnx.find("SYMBOL: PINSTUB 184 64 OUT result 100 58 \"result[8..0]\""), std::string::npos);
   EXPECT_EQ(run({"-m", "lpm_constant", dir.path("k.tdf"), "LPM_CVALUE=512", "LPM_WIDTH=9"}), kExitCancel);
 }
 

@@ -1,9 +1,14 @@
-// Tests of symbol pictures: an automatic and a drawn symbol rendered as SVG, checked to be well-formed XML
-// and converted to PNG under <build>/test-artifacts/symbol/ for a person to look at.
+// Tests of symbol pictures: an automatic symbol, a drawn one and the bundled constant modulon's symbol
+// rendered as SVG, checked to be well-formed XML with texts clear of each other and of the lines, and
+// converted to PNG under <build>/test-artifacts/symbol/ for a person to look at.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <map>
+#include <regex>
+#include <sstream>
 
 #include "RecordingInterface.h"
 #include "TempDir.h"
@@ -60,6 +65,65 @@ size_t countOf(const std::string& text, const std::string& piece) {
   return count;
 }
 
+// A rectangle on the sheet; a line is one with no width or no height.
+struct Box {
+  int left, top, right, bottom;
+};
+
+// Whether two boxes share inner points (a line only touching a box's edge does not).
+bool crosses(const Box& a, const Box& b) {
+  return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+}
+
+// The fields of one .sym record line: key to value, numbers and pairs as written, texts unescaped.
+std::map<std::string, std::string> fieldsOf(const std::string& line) {
+  static const std::regex field(R"re(([\w-]+)=("(?:[^"\\]|\\.)*"|[-\d,]+))re");
+  std::map<std::string, std::string> fields;
+  for (std::sregex_iterator it(line.begin(), line.end(), field), end; it != end; ++it) {
+    std::string value = (*it)[2];
+    if (value[0] == '"')
+      value = std::regex_replace(value.substr(1, value.size() - 2), std::regex(R"(\\n)"), "\n");
+    fields[(*it)[1]] = value;
+  }
+  return fields;
+}
+
+// Every shown horizontal text of a .sym file keeps clear of the other texts and of every line: each line of a
+// text takes its measured width (the parameter block's recorded width counts characters, not pixels).
+void expectTextsClear(const std::string& symPath) {
+  std::vector<std::pair<std::string, Box>> texts;
+  std::vector<Box> lines;
+  std::istringstream in(testing::TempDir::readFile(symPath));
+  for (std::string line; std::getline(in, line);) {
+    auto f = fieldsOf(line);
+    int x = 0, y = 0, x2 = 0, y2 = 0;
+    if (line.rfind("line ", 0) == 0 &&
+        std::sscanf((f["from"] + "," + f["to"]).c_str(), "%d,%d,%d,%d", &x, &y, &x2, &y2) == 4) {
+      lines.push_back({std::min(x, x2), std::min(y, y2), std::max(x, x2), std::max(y, y2)});
+    }
+    if (line.rfind("text ", 0) != 0 || f["display"] == "0" || f["visible-status"] != "0" ||
+        f["orientation"] != "0" || std::sscanf(f["start"].c_str(), "%d,%d", &x, &y) != 2)
+      continue;
+    const std::string& font = f["font-string"];
+    const int points = std::atoi(font.substr(font.find(',') + 1).c_str());
+    int width = 0, height = 0, cx = 0, cy = 0;
+    std::istringstream pieces(f["text"]);
+    for (std::string piece; std::getline(pieces, piece); height += cy) {
+      sym_measure_text(nullptr, -((96 * points + 36) / 72), piece.c_str(), &cx, &cy);
+      width = std::max(width, cx);
+    }
+    texts.push_back({f["text"], Box{x, y, x + width, y + height}});
+  }
+  ASSERT_FALSE(texts.empty()) << symPath;
+  for (size_t i = 0; i < texts.size(); ++i) {
+    for (size_t j = i + 1; j < texts.size(); ++j)
+      EXPECT_FALSE(crosses(texts[i].second, texts[j].second)) << texts[i].first << " | " << texts[j].first;
+    for (const Box& l : lines)
+      EXPECT_FALSE(crosses(texts[i].second, l)) << texts[i].first << " crosses the line from " << l.left
+                                                << "," << l.top << " to " << l.right << "," << l.bottom;
+  }
+}
+
 CnxUsedPort port(const std::string& name, const std::string& direction, const std::string& width) {
   CnxUsedPort p;
   p.name = name;
@@ -78,8 +142,11 @@ TEST(SymbolPicture, AutomaticCounter) {
     EXPECT_NE(svg.find(piece), std::string::npos) << piece;
   EXPECT_NE(svg.find(">WIDTH=8</tspan><tspan"), std::string::npos);
   EXPECT_NE(svg.find(">DIRECTION=</tspan>"), std::string::npos);
-  EXPECT_EQ(countOf(svg, "<rect x=\"") - 2, 6u);      // a mark per pin besides background and sheet
-  EXPECT_EQ(countOf(svg, "stroke-width=\"3\""), 3u);  // the bus stubs
+  EXPECT_EQ(countOf(svg, "<rect x=\"") - 2, 6u);        // a mark per pin besides background and sheet
+  EXPECT_EQ(countOf(svg, "stroke-width=\"3\""), 3u);    // the bus stubs
+  EXPECT_EQ(countOf(svg, "text-anchor=\"end\">"), 3u);  // the right side's pin names end at the box
+  EXPECT_EQ(countOf(svg, "font-family=\"Liberation Sans, Arial, sans-serif\""), 8u);
+  expectTextsClear(artifactDir() + "automatic_counter.sym");
   expectWellFormedXml(artifactDir() + "automatic_counter.svg");
   convertToPng(artifactDir() + "automatic_counter");
 }
@@ -123,11 +190,39 @@ TEST(SymbolPicture, DrawnGate) {
                             "&amp; &lt;gate&gt; &quot;x&quot; caf&#xE9;<", ">LPM_TYPE=AND</tspan>"})
     EXPECT_NE(svg.find(piece), std::string::npos) << piece;
   EXPECT_EQ(svg.find(">rst<"), std::string::npos);  // the hidden pin name is left out, its pin mark is not
+  EXPECT_NE(
+      svg.find(
+          "<text x=\"136\" y=\"51.9\" font-size=\"11\" font-family=\"Liberation Sans, Arial, sans-serif\" "
+          "text-anchor=\"end\">y<"),
+      std::string::npos);
   EXPECT_EQ(countOf(svg, "<rect x=\"") - 2, 4u);
   for (const char* dashes : {"\"1 2\"", "\"1 1\"", "\"6 2 1 2\"", "\"5 3\""})
     EXPECT_EQ(countOf(svg, std::string("stroke-dasharray=") + dashes), 1u) << dashes;
   expectWellFormedXml(artifactDir() + "drawn_gate.svg");
   convertToPng(artifactDir() + "drawn_gate");
+}
+
+// The bundled constant modulon draws its own symbol: every width's texts keep clear of each other and of the
+// box, and the picture of the widest is kept.
+TEST(SymbolPicture, BundledConstantModulon) {
+  testing::TempDir project;
+  for (const auto& [width, value] : {std::pair{"1", "1"}, {"5", "17"}, {"32", "2147483647"}}) {
+    const std::string command = "cd '" + project.dir() +
+                                "' && env -u PLOVIX_LIB_PATH -u PLOVIX_USER_LIB_PATH '" + PLOVIX_BINARY_DIR +
+                                "/cli/plovix' --batch --modulon lpm_constant --plugin-args " +
+                                "'LPM_CVALUE=" + value + " LPM_WIDTH=" + width + "' constant.tdf 2>/dev/null";
+    ASSERT_EQ(std::system(command.c_str()), 0) << command;
+    SCOPED_TRACE(width);
+    expectTextsClear(project.path("constant.sym"));
+  }
+  const std::string base = artifactDir() + "constant";
+  std::filesystem::copy_file(project.path("constant.sym"), base + ".sym",
+                             std::filesystem::copy_options::overwrite_existing);
+  char* svg = nullptr;
+  ASSERT_EQ(sym_render_svg((base + ".sym").c_str(), &svg, nullptr, nullptr), 1);
+  std::ofstream(base + ".svg", std::ios::binary) << svg;
+  sym_free_text(svg);
+  convertToPng(base);
 }
 
 // The plovix command prints the same picture; it is built by its own target, so the test needs it built.
