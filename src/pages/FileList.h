@@ -21,6 +21,7 @@ struct FileListItem {
   uint32_t size = 0;  // the low part of the size
   int kind = kOtherFileKind;
   long long modifiedTime = 0;  // seconds since the epoch
+  bool operator==(const FileListItem&) const = default;
 };
 
 enum FileListColumn : int { kColumnName = 0, kColumnSize = 1, kColumnType = 2, kColumnModified = 3 };

@@ -54,6 +54,17 @@ void clickItem(QWidget* parent, const char* objectName, const QString& text, boo
   if (twice) QTest::mouseDClick(tree->viewport(), Qt::LeftButton, {}, where);
 }
 
+// Double-clicks the row of the file list that shows `text` as a user would: two presses and releases sent to
+// the window, which the window system's rules turn into a double-click.
+void doubleClickRow(QWidget* dialog, const QString& text) {
+  auto* list = dialog->findChild<QTreeWidget*>("fileList");
+  QVERIFY(list != nullptr);
+  const QList<QTreeWidgetItem*> found = list->findItems(text, Qt::MatchExactly);
+  QVERIFY2(!found.isEmpty(), qPrintable(text));
+  const QPoint where = list->viewport()->mapTo(dialog, list->visualItemRect(found.front()).center());
+  QTest::mouseDClick(dialog->windowHandle(), Qt::LeftButton, {}, where);
+}
+
 }  // namespace
 
 class QtPagesTest : public QObject {
@@ -203,6 +214,28 @@ class QtPagesTest : public QObject {
     QVERIFY2(driver.finished(), qPrintable(driver.pending().join(",")));
     QCOMPARE(page.modulonName, std::string("lpm_counter"));
     QCOMPARE(page.extension, std::string(".vhd"));
+  }
+
+  // A double-click on a folder opens it; on a file it goes on as Next does.
+  void browserDoubleClicks() {
+    TempDir dir;
+    dir.write("lib/a_wizard.lst", "lpm_counter=run\n");
+    dir.write("proj/sub/count8.v", "// modulon wizard: %lpm_counter%\n");
+    WizardCatalog loaded;
+    loaded.loadFrom(*frontEnd, dir.path("lib"), "");
+    PageContext context{*frontEnd, loaded, corner, dir.path("proj/"), ""};
+    VariationBrowserPage page;
+    page.directory = dir.path("proj/");
+    page.pageKind = PageKind::kMiddle;
+    page.open(context);
+    ModalDriver driver;
+    driver.on("browserPage", [](QWidget* dialog) { doubleClickRow(dialog, "sub"); });
+    driver.on("browserPage", [](QWidget* dialog) { doubleClickRow(dialog, "count8.v"); });
+    QCOMPARE(int(frontEnd->showBrowserPage(page, context)), int(PageResult::kNext));
+    QVERIFY2(driver.finished(), qPrintable(driver.pending().join(",")));
+    QCOMPARE(page.directory, dir.path("proj/sub/"));
+    QCOMPARE(page.baseName + page.extension, std::string("count8.v"));
+    QVERIFY(!page.newVariation);
   }
 
   void createAndEditAVariationByClicking() {

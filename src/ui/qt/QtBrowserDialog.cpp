@@ -194,27 +194,33 @@ void QtBrowserDialog::finishRename(QTreeWidgetItem* item) {
   const int index = renaming_;
   renaming_ = -1;
   page_.renameItem(context_, index, item->text(0).toStdString());
+  shownItems_.clear();  // the edited row shows the typed name, also when the rename failed
   pushList();
 }
 
 void QtBrowserDialog::pushList() {
   updating_ = true;
-  list_->clear();
   const bool detailed = page_.list.detailedView;
   list_->setHeaderHidden(!detailed);
   for (int column = 1; column < 4; ++column) list_->setColumnHidden(column, !detailed);
-  for (const FileListItem& item : page_.list.items()) {
-    auto* row = new QTreeWidgetItem(list_);
-    for (int column = 0; column < 4; ++column) {
-      row->setText(column, QString::fromStdString(FileList::columnText(item, column)));
+  // The rows are made anew only when the listing changed: after a click that only selects, the second click
+  // of a double-click must land on the row that the first one chose.
+  if (page_.list.items() != shownItems_) {
+    list_->clear();
+    shownItems_ = page_.list.items();
+    for (const FileListItem& item : shownItems_) {
+      auto* row = new QTreeWidgetItem(list_);
+      for (int column = 0; column < 4; ++column) {
+        row->setText(column, QString::fromStdString(FileList::columnText(item, column)));
+      }
+      row->setTextAlignment(kColumnSize, Qt::AlignRight | Qt::AlignVCenter);
+      row->setTextAlignment(kColumnType, Qt::AlignCenter);
+      row->setIcon(0, fileListIcon(FileList::imageOfKind(item.kind)));
     }
-    row->setTextAlignment(kColumnSize, Qt::AlignRight | Qt::AlignVCenter);
-    row->setTextAlignment(kColumnType, Qt::AlignCenter);
-    row->setIcon(0, fileListIcon(FileList::imageOfKind(item.kind)));
   }
-  if (page_.selectedItem >= 0 && page_.selectedItem < list_->topLevelItemCount()) {
-    list_->setCurrentItem(list_->topLevelItem(page_.selectedItem));
-  }
+  QTreeWidgetItem* selected =
+      page_.selectedItem >= 0 ? list_->topLevelItem(page_.selectedItem) : nullptr;  // null when out of range
+  if (selected != nullptr && selected != list_->currentItem()) list_->setCurrentItem(selected);
   listView_->setChecked(!detailed);
   detailedView_->setChecked(detailed);
   updating_ = false;

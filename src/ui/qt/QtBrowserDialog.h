@@ -36,6 +36,7 @@ class QtBrowserDialog : public QtPageDialog {
   QComboBox* fileType_;
   QCheckBox* wizardOnly_;
   QComboBox* modulon_;
+  std::vector<FileListItem> shownItems_;  // the listing the rows show
   bool updating_ = false;
   int renaming_ = -1;
 };
