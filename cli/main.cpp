@@ -27,6 +27,7 @@ int main(int argc, char** argv) {
     return plovix::modulonLibraryFound(messages) ? plovix::listModulons(messages) : 1;
   }
 
+  commandLine.frontEnd.startedByCommand = true;
   std::unique_ptr<plovix::FrontEnd> frontEnd = plovix::makeFrontEnd(commandLine.frontEnd);
   if (!plovix::modulonLibraryFound(*frontEnd)) return 1;
 
@@ -37,5 +38,6 @@ int main(int argc, char** argv) {
   plovix::runManager(app, *frontEnd, steps,
                      commandLine.hasDesignFile ? commandLine.designFile.c_str() : nullptr,
                      commandLine.pluginArgs.c_str());
+  frontEnd->showSummary(app.run.outcome);
   return app.run.outcome.exitStatus();
 }

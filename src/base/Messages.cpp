@@ -143,6 +143,11 @@ constexpr Row kTable[] = {
     {Msg::kNoModulonLibrary,
      "No modulon library found: the bundled modulons are not in %s.\nName a library with --lib-path or "
      "PLOVIX_LIB_PATH."},
+    {Msg::kSummaryWritten, "Files written (%s):\n"},
+    {Msg::kSummaryNotWritten, "Files not written (%s):\n"},
+    {Msg::kSummaryWarnings, "Warnings (%s):\n"},
+    {Msg::kSummaryLine, "  %s\n"},
+    {Msg::kSummaryNotWrittenLine, "  %s (%s)\n"},
 };
 
 // Every message has its row, at the index of its number.

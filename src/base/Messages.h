@@ -111,6 +111,11 @@ enum class Msg : int {
   kQtFrontEndNotLoaded,
   kQtFrontEndOtherVersion,
   kNoModulonLibrary,
+  kSummaryWritten,
+  kSummaryNotWritten,
+  kSummaryWarnings,
+  kSummaryLine,
+  kSummaryNotWrittenLine,
 
   kMessageCount
 };

@@ -88,6 +88,26 @@ std::string qtFrontEndUnavailable(bool usingConsole) {
   return errorMessage(Msg::kQtFrontEndUnavailable, usingConsole ? "console" : "batch");
 }
 
+std::string runSummary(const RunOutcome& outcome) {
+  if (!outcome.generated) return {};
+  std::string text;
+  if (!outcome.written.empty()) {
+    text += errorMessage(Msg::kSummaryWritten, formatInt(static_cast<long long>(outcome.written.size())));
+    for (const std::string& path : outcome.written) text += errorMessage(Msg::kSummaryLine, path);
+  }
+  if (!outcome.notWritten.empty()) {
+    text +=
+        errorMessage(Msg::kSummaryNotWritten, formatInt(static_cast<long long>(outcome.notWritten.size())));
+    for (const RunOutcome::NotWritten& file : outcome.notWritten)
+      text += errorMessage(Msg::kSummaryNotWrittenLine, file.path, file.reason);
+  }
+  if (!outcome.warnings.empty()) {
+    text += errorMessage(Msg::kSummaryWarnings, formatInt(static_cast<long long>(outcome.warnings.size())));
+    for (const std::string& warning : outcome.warnings) text += errorMessage(Msg::kSummaryLine, warning);
+  }
+  return text;
+}
+
 std::string makerNotice() {
   return errorMessage(Msg::kMakerNotice);
 }

@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "base/RunOutcome.h"
+
 namespace plovix::questions {
 
 // Run start: the design file name given to the run.
@@ -38,6 +40,10 @@ std::string xmlParsingError();
 
 // The note shown when the Qt front end was asked for but cannot open windows here.
 std::string qtFrontEndUnavailable(bool usingConsole);
+
+// The account the plovix command gives at the end of a run: the files written, those not written with the
+// reason, and the warnings, each part only when it has lines; empty when nothing was generated.
+std::string runSummary(const RunOutcome& outcome);
 
 // The one-line notice of the maker on the action page.
 std::string makerNotice();

@@ -2,6 +2,7 @@
 #include "ui/ConsoleFrontEnd.h"
 
 #include "base/Messages.h"
+#include "base/QuestionTexts.h"
 #include "base/TextHelpers.h"
 
 namespace plovix {
@@ -41,6 +42,12 @@ bool ConsoleFrontEnd::ask(const std::string& text) {
     if (answer == "o" || answer == "ok" || answer == "y" || answer == "yes") return true;
     if (answer == "c" || answer == "cancel" || answer == "n" || answer == "no") return false;
   }
+}
+
+void ConsoleFrontEnd::showSummary(const RunOutcome& outcome) {
+  const std::string summary = questions::runSummary(outcome);
+  if (!summary.empty()) std::fprintf(out_, "\n%s", summary.c_str());
+  std::fflush(out_);
 }
 
 bool ConsoleFrontEnd::prompt(const std::string& hint, std::string& line) {

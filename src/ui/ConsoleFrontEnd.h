@@ -25,6 +25,7 @@ class ConsoleFrontEnd : public FrontEnd {
 
   void report(const std::string& text) override;
   bool ask(const std::string& text) override;
+  void showSummary(const RunOutcome& outcome) override;
 
   PageResult showActionPage(ActionPage& page, PageContext& context) override;
   PageResult showModulonPage(ModulonSelectionPage& page, PageContext& context) override;

@@ -15,6 +15,9 @@ struct FrontEndOptions {
   std::string modulon;   // batch: the modulon chosen on the pages
   std::string language;  // batch: an output kind's CLI word
   bool answerOk = true;  // batch: the answer to every question
+  // Started by the plovix command, not by a host of libvamlet.so: the console then ends the process on
+  // Ctrl-C with status 130.
+  bool startedByCommand = false;
 };
 
 // The options as the environment sets them.

@@ -147,6 +147,10 @@ TEST_F(ConsoleSessionTest, CreatesAVariationAndEditsItThroughTheBrowser) {
     session.send("o count8");
     ASSERT_TRUE(session.expect("What name do you want for the output file? count8"));
     session.send("n");
+    // The plovix command's account of the run.
+    const std::string written = errorMessage(Msg::kSummaryWritten, "6");
+    EXPECT_TRUE(session.expect(written.substr(0, written.size() - 1))) << session.output;
+    EXPECT_TRUE(session.expect("  " + dir.path("proj/count8.v"))) << session.output;
     EXPECT_EQ(session.exitCode(), 0) << session.output;
   }
   EXPECT_FALSE(dir.read("proj/count8.v").empty());

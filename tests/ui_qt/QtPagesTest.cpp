@@ -14,6 +14,7 @@
 
 #include "ModalDriver.h"
 #include "TempDir.h"
+#include "base/QuestionTexts.h"
 #include "base/Report.h"
 #include "catalog/WizardCatalog.h"
 #include "entry/ManagerApp.h"
@@ -159,6 +160,30 @@ class QtPagesTest : public QObject {
         "message-box");
     frontEnd->report("a report");
     QVERIFY(!frontEnd->ask("a question"));
+    QVERIFY(driver.finished());
+  }
+
+  // The plovix command's account at the end: one box when files were generated, none otherwise.
+  void summaryBox() {
+    ModalDriver driver;
+    driver.answerOtherBoxesWithOk();
+    frontEnd->showSummary(RunOutcome{});
+    QVERIFY(driver.otherBoxes.isEmpty());
+    RunOutcome outcome;
+    outcome.generated = true;
+    outcome.recordWrite("/work/count8.v", true, "");
+    outcome.recordWrite("/work/count8.inc", false, "overwrite declined");
+    outcome.warnings = {"a warning"};
+    driver.on(
+        "summaryBox",
+        [&](QWidget* widget) {
+          auto* box = qobject_cast<QMessageBox*>(widget);
+          QCOMPARE(box->text(), QString::fromStdString(questions::runSummary(outcome)));
+          QVERIFY(box->text().contains("/work/count8.inc"));
+          answerBox(box, true);
+        },
+        "summary-box");
+    frontEnd->showSummary(outcome);
     QVERIFY(driver.finished());
   }
 

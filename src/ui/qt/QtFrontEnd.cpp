@@ -4,6 +4,7 @@
 #include <QMessageBox>
 
 #include "base/Messages.h"
+#include "base/QuestionTexts.h"
 #include "ui/qt/QtActionDialog.h"
 #include "ui/qt/QtBrowserDialog.h"
 #include "ui/qt/QtModulonDialog.h"
@@ -25,6 +26,7 @@ int showBox(const std::string& text, QMessageBox::StandardButtons buttons) {
   QMessageBox box(QMessageBox::Warning, QString::fromStdString(std::string(kManagerName)),
                   QString::fromStdString(text), buttons);
   box.setObjectName("messageBox");
+  box.setTextFormat(Qt::PlainText);  // paths and names are shown as they are, never read as markup
   return box.exec();
 }
 
@@ -36,6 +38,16 @@ void QtFrontEnd::report(const std::string& text) {
 
 bool QtFrontEnd::ask(const std::string& text) {
   return showBox(text, QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
+}
+
+void QtFrontEnd::showSummary(const RunOutcome& outcome) {
+  const std::string summary = questions::runSummary(outcome);
+  if (summary.empty()) return;
+  QMessageBox box(QMessageBox::Information, QString::fromStdString(std::string(kManagerName)),
+                  QString::fromStdString(summary), QMessageBox::Ok);
+  box.setObjectName("summaryBox");
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
 }
 
 bool QtFrontEnd::processEvents() {

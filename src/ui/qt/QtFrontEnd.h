@@ -18,6 +18,7 @@ class QtFrontEnd : public FrontEnd {
   void report(const std::string& text) override;
   bool ask(const std::string& text) override;
   bool processEvents() override;
+  void showSummary(const RunOutcome& outcome) override;
 
   PageResult showActionPage(ActionPage& page, PageContext& context) override;
   PageResult showModulonPage(ModulonSelectionPage& page, PageContext& context) override;
