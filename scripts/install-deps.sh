@@ -6,7 +6,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev libcli11-dev
   qt6-base-dev xvfb xauth librsvg2-bin fonts-liberation
   ghdl iverilog verilator yosys
-  python3 tmux
+  libedit-dev python3 tmux
   dpkg-dev file pkgconf lintian
 )
 missing=()

@@ -30,7 +30,8 @@ struct PluginWaitResult {
 
 // Waits for the started plug-in while the user interface handles its events, storing in `corner` the window
 // corner the plug-in reports. Quitting (processEvents false, or SIGINT/SIGTERM) kills the plug-in; the exit
-// code is then 2. The channel and the quit signals' hold must exist before the plug-in starts.
+// code is then 2. A plug-in ended by SIGINT (it held the terminal when the user pressed Ctrl-C) is a quit
+// request too. The channel and the quit signals' hold must exist before the plug-in starts.
 PluginWaitResult waitForPlugin(ChildProcess& child, PositionChannel& channel, QuitSignals& quitSignals,
                                WindowCorner& corner, UserInterface& ui);
 

@@ -1,6 +1,7 @@
 // The wait for a running plug-in: its end, its position reports, quit requests and the user interface's
 // events.
 #include <poll.h>
+#include <signal.h>
 
 #include "entry/PluginLaunchParts.h"
 
@@ -30,6 +31,8 @@ PluginWaitResult waitForPlugin(ChildProcess& child, PositionChannel& channel, Qu
     if (const int signal = quitSignals.take(); signal != 0) result.quitSignal = signal;
 
     const bool ended = child.hasEnded(result.exitCode);
+    // A plug-in that held the terminal got the user's Ctrl-C itself: the run is asked to quit as well.
+    if (ended && child.endSignal() == SIGINT) result.quitSignal = SIGINT;
     if (result.quitSignal != 0 || !ui.processEvents()) {
       child.kill();
       result.exitCode = 2;

@@ -93,6 +93,7 @@ bool ChildProcess::hasEnded(int32_t& exitCode) {
     reaped_ = true;
     // A status the system could not give back (the child was collected elsewhere) counts as Cancel.
     exitCode_ = result == pid_ ? exitCodeOf(status) : 2;
+    endSignal_ = result == pid_ && WIFSIGNALED(status) ? WTERMSIG(status) : 0;
     closeDescriptor();
   }
   exitCode = exitCode_;

@@ -27,6 +27,9 @@ class ChildProcess {
   // True once the process has ended, with its exit code: the exit status, or 2 when a signal ended it.
   bool hasEnded(int32_t& exitCode);
 
+  // The signal that ended the process, once hasEnded said so; 0 when it exited or was ended by kill().
+  int endSignal() const { return endSignal_; }
+
   // Ends the process and everything in its group at once (SIGKILL) and collects it.
   void kill();
 
@@ -39,6 +42,7 @@ class ChildProcess {
   int pidFd_ = -1;
   bool reaped_ = true;
   int32_t exitCode_ = 0;
+  int endSignal_ = 0;
 };
 
 }  // namespace plovix

@@ -1,4 +1,5 @@
 // The action page in the terminal: two numbered choices, Next and Cancel.
+#include "base/Format.h"
 #include "pages/PageTexts.h"
 #include "ui/ConsoleFrontEnd.h"
 #include "ui/ConsoleTexts.h"
@@ -9,13 +10,13 @@ PageResult ConsoleFrontEnd::showActionPage(ActionPage& page, PageContext& contex
   page.open();
   for (;;) {
     printTitle(page.windowTitle(""));
-    std::fprintf(out_, "%s\n\n%s\n", std::string(pagetexts::kActionIntro).c_str(),
-                 std::string(pagetexts::kActionQuestion).c_str());
-    std::fprintf(out_, "  1 (%c) %s\n", page.createChecked ? '*' : ' ',
-                 consoleLabel(pagetexts::kCreateChoice).c_str());
-    std::fprintf(out_, "  2 (%c) %s\n", page.createChecked ? ' ' : '*',
-                 consoleLabel(pagetexts::kEditChoice).c_str());
-    std::fprintf(out_, "%s\n", page.notice.c_str());
+    print(formatText("%s\n\n%s\n", std::string(pagetexts::kActionIntro).c_str(),
+                     std::string(pagetexts::kActionQuestion).c_str()));
+    print(formatText("  1 (%c) %s\n", page.createChecked ? '*' : ' ',
+                     consoleLabel(pagetexts::kCreateChoice).c_str()));
+    print(formatText("  2 (%c) %s\n", page.createChecked ? ' ' : '*',
+                     consoleLabel(pagetexts::kEditChoice).c_str()));
+    print(formatText("%s\n", page.notice.c_str()));
     std::string line;
     if (!prompt(std::string(consoletexts::kActionCommands), line)) break;
     if (line == "1") {

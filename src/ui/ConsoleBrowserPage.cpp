@@ -1,5 +1,6 @@
 // The browser page in the terminal: the folder as a numbered listing, with commands to change folder,
 // filter, rename and choose.
+#include "base/Format.h"
 #include "base/OutputKinds.h"
 #include "base/TextHelpers.h"
 #include "pages/PageTexts.h"
@@ -10,31 +11,31 @@ namespace plovix {
 
 void ConsoleFrontEnd::printBrowserPage(const VariationBrowserPage& page) {
   printTitle(page.windowTitle(""));
-  std::fprintf(out_, "%s\n%s %s\n", std::string(pagetexts::kBrowserQuestion).c_str(),
-               consoleLabel(pagetexts::kLookInLabel).c_str(), page.lookIn.selectedPath().c_str());
+  print(formatText("%s\n%s %s\n", std::string(pagetexts::kBrowserQuestion).c_str(),
+                   consoleLabel(pagetexts::kLookInLabel).c_str(), page.lookIn.selectedPath().c_str()));
   const std::vector<FileListItem>& items = page.list.items();
   for (size_t i = 0; i < items.size(); ++i) {
     const FileListItem& item = items[i];
     const std::string name = item.kind == kFolderKind ? item.name + "/" : item.name;
     if (page.list.detailedView) {
-      std::fprintf(out_, "%c%3zu  %-24s %10s  %-12s %s\n",
-                   static_cast<int>(i) == page.selectedItem ? '*' : ' ', i + 1, name.c_str(),
-                   FileList::columnText(item, kColumnSize).c_str(),
-                   FileList::columnText(item, kColumnType).c_str(),
-                   FileList::columnText(item, kColumnModified).c_str());
+      print(formatText("%c%3zu  %-24s %10s  %-12s %s\n", static_cast<int>(i) == page.selectedItem ? '*' : ' ',
+                       i + 1, name.c_str(), FileList::columnText(item, kColumnSize).c_str(),
+                       FileList::columnText(item, kColumnType).c_str(),
+                       FileList::columnText(item, kColumnModified).c_str()));
     } else {
-      std::fprintf(out_, "%c%3zu  %s\n", static_cast<int>(i) == page.selectedItem ? '*' : ' ', i + 1,
-                   name.c_str());
+      print(formatText("%c%3zu  %s\n", static_cast<int>(i) == page.selectedItem ? '*' : ' ', i + 1,
+                       name.c_str()));
     }
   }
-  std::fprintf(out_, "%s %s\n", consoleLabel(pagetexts::kFileNameLabel).c_str(), page.fileNameText.c_str());
-  std::fprintf(
-      out_, "%s %s\n", consoleLabel(pagetexts::kFileTypeLabel).c_str(),
-      page.fileTypes.empty() ? "" : page.fileTypes[static_cast<size_t>(page.selectedFileType)].first.c_str());
-  std::fprintf(out_, "[%c] %s\n", page.wizardOnlyChecked ? 'x' : ' ',
-               consoleLabel(pagetexts::kWizardOnlyCheck).c_str());
-  std::fprintf(out_, "%s\n%s %s\n", std::string(pagetexts::kBrowserModulonNote).c_str(),
-               consoleLabel(pagetexts::kModulonBoxLabel).c_str(), page.modulonText.c_str());
+  print(formatText("%s %s\n", consoleLabel(pagetexts::kFileNameLabel).c_str(), page.fileNameText.c_str()));
+  print(formatText("%s %s\n", consoleLabel(pagetexts::kFileTypeLabel).c_str(),
+                   page.fileTypes.empty()
+                       ? ""
+                       : page.fileTypes[static_cast<size_t>(page.selectedFileType)].first.c_str()));
+  print(formatText("[%c] %s\n", page.wizardOnlyChecked ? 'x' : ' ',
+                   consoleLabel(pagetexts::kWizardOnlyCheck).c_str()));
+  print(formatText("%s\n%s %s\n", std::string(pagetexts::kBrowserModulonNote).c_str(),
+                   consoleLabel(pagetexts::kModulonBoxLabel).c_str(), page.modulonText.c_str()));
 }
 
 PageResult ConsoleFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& context) {
@@ -72,9 +73,9 @@ PageResult ConsoleFrontEnd::showBrowserPage(VariationBrowserPage& page, PageCont
       if (number == 0) {
         for (size_t i = 0; i < page.lookIn.items().size(); ++i) {
           const LookInItem& item = page.lookIn.items()[i];
-          std::fprintf(out_, "%c%3zu  %s%s\n", static_cast<int>(i) == page.lookIn.selected() ? '*' : ' ',
-                       i + 1, std::string(static_cast<size_t>(item.level) * 2, ' ').c_str(),
-                       item.displayText.c_str());
+          print(formatText("%c%3zu  %s%s\n", static_cast<int>(i) == page.lookIn.selected() ? '*' : ' ', i + 1,
+                           std::string(static_cast<size_t>(item.level) * 2, ' ').c_str(),
+                           item.displayText.c_str()));
         }
       } else {
         page.chooseLookIn(context, static_cast<int>(number) - 1);
@@ -83,7 +84,7 @@ PageResult ConsoleFrontEnd::showBrowserPage(VariationBrowserPage& page, PageCont
       const size_t number = consoleNumber(argument);
       if (number == 0) {
         for (size_t i = 0; i < page.fileTypes.size(); ++i) {
-          std::fprintf(out_, "%4zu  %s\n", i + 1, page.fileTypes[i].first.c_str());
+          print(formatText("%4zu  %s\n", i + 1, page.fileTypes[i].first.c_str()));
         }
       } else {
         page.selectFileType(context, static_cast<int>(number) - 1);
@@ -94,7 +95,7 @@ PageResult ConsoleFrontEnd::showBrowserPage(VariationBrowserPage& page, PageCont
       const size_t number = consoleNumber(argument);
       if (argument.empty()) {
         for (size_t i = 0; i < page.modulonItems.size(); ++i) {
-          std::fprintf(out_, "%4zu  %s\n", i + 1, page.modulonItems[i].c_str());
+          print(formatText("%4zu  %s\n", i + 1, page.modulonItems[i].c_str()));
         }
       } else if (number > 0 && number <= page.modulonItems.size()) {
         page.modulonText = page.modulonItems[number - 1];

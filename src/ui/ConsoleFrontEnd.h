@@ -1,12 +1,15 @@
 // The console front end: boxes and pages in the terminal, for work over ssh.
 #pragma once
 
+#include <signal.h>
+
 #include <cstdio>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "ui/ConsoleTerminal.h"
 #include "ui/FrontEnd.h"
 #include "ui/FrontEndFactory.h"
 
@@ -20,8 +23,9 @@ size_t consoleNumber(const std::string& text);
 
 class ConsoleFrontEnd : public FrontEnd {
  public:
-  explicit ConsoleFrontEnd(FrontEndOptions options, std::FILE* in = stdin, std::FILE* out = stdout)
-      : options_(std::move(options)), in_(in), out_(out) {}
+  // Started by the plovix command, Ctrl-C ends the process with status 130 while the front end lives.
+  explicit ConsoleFrontEnd(FrontEndOptions options, std::FILE* in = stdin, std::FILE* out = stdout);
+  ~ConsoleFrontEnd() override;
 
   void report(const std::string& text) override;
   bool ask(const std::string& text) override;
@@ -32,8 +36,10 @@ class ConsoleFrontEnd : public FrontEnd {
   PageResult showBrowserPage(VariationBrowserPage& page, PageContext& context) override;
 
  protected:
-  // Reads one line from the terminal without its line end; false at the end of input.
-  bool readLine(std::string& line);
+  // Shows `prompt` and reads one line without its line end; false at the end of input.
+  bool readLine(const std::string& prompt, std::string& line);
+  // Writes text wrapped at the terminal's width.
+  void print(const std::string& text) { terminal_.print(text); }
   void printBox(const std::string& text);
   // Prints the hint and reads the user's command, trimmed; false at the end of input.
   bool prompt(const std::string& hint, std::string& line);
@@ -43,8 +49,9 @@ class ConsoleFrontEnd : public FrontEnd {
   void printFocus(WizardPageFrame& page, const std::vector<std::pair<int, std::string>>& names);
 
   FrontEndOptions options_;
-  std::FILE* in_;
-  std::FILE* out_;
+  ConsoleTerminal terminal_;
+  bool interruptHandled_ = false;
+  struct sigaction previousInterrupt_ {};
 };
 
 }  // namespace plovix

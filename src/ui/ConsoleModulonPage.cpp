@@ -1,4 +1,5 @@
 // The modulon page in the terminal: the tree as an indented numbered list, the language, the output name.
+#include "base/Format.h"
 #include "base/OutputKinds.h"
 #include "base/TextHelpers.h"
 #include "catalog/WizardCatalog.h"
@@ -21,26 +22,26 @@ PageResult ConsoleFrontEnd::showModulonPage(ModulonSelectionPage& page, PageCont
       {kControlModulonTree, consoletexts::kModulonTree}, {kControlOutputName, consoletexts::kOutputName}};
   for (;;) {
     printTitle(page.windowTitle(""));
-    std::fprintf(out_, "%s\n%s\n", std::string(pagetexts::kModulonQuestion).c_str(),
-                 consoleLabel(pagetexts::kModulonTreeLabel).c_str());
+    print(formatText("%s\n%s\n", std::string(pagetexts::kModulonQuestion).c_str(),
+                     consoleLabel(pagetexts::kModulonTreeLabel).c_str()));
     const auto order = page.tree.displayOrder();
     for (size_t i = 0; i < order.size(); ++i) {
       const auto [index, depth] = order[i];
       const ModulonTree::Item& item = page.tree.item(index);
-      std::fprintf(out_, "%c%3zu  %s%s%s\n", index == page.tree.selected() ? '*' : ' ', i + 1,
-                   std::string(static_cast<size_t>(depth) * 2, ' ').c_str(), item.text.c_str(),
-                   item.image == ModulonTree::kFolderImage ? "/" : "");
+      print(formatText("%c%3zu  %s%s%s\n", index == page.tree.selected() ? '*' : ' ', i + 1,
+                       std::string(static_cast<size_t>(depth) * 2, ' ').c_str(), item.text.c_str(),
+                       item.image == ModulonTree::kFolderImage ? "/" : ""));
     }
-    std::fprintf(out_, "%s ", consoleLabel(pagetexts::kTypeQuestion).c_str());
+    std::string languages = consoleLabel(pagetexts::kTypeQuestion) + " ";
     for (int i = 0; i < 3; ++i) {
-      std::fprintf(out_, " [%c] %s", i == page.languageIndex ? 'x' : ' ',
-                   consoleLabel(kLanguageButtons[i]).c_str());
+      languages += formatText(" [%c] %s", i == page.languageIndex ? 'x' : ' ',
+                              consoleLabel(kLanguageButtons[i]).c_str());
     }
-    std::fprintf(out_, "\n%s %s\n", consoleLabel(pagetexts::kOutputNameLabel).c_str(), page.editText.c_str());
-    std::fprintf(out_, "%s\n", std::string(pagetexts::kLibraryListLabel).c_str());
-    for (const std::string& library : page.libraryDirectories)
-      std::fprintf(out_, "    %s\n", library.c_str());
-    std::fprintf(out_, "%s\n", std::string(pagetexts::kProjectNote).c_str());
+    print(languages + "\n");
+    print(formatText("%s %s\n", consoleLabel(pagetexts::kOutputNameLabel).c_str(), page.editText.c_str()));
+    print(formatText("%s\n", std::string(pagetexts::kLibraryListLabel).c_str()));
+    for (const std::string& library : page.libraryDirectories) print(formatText("    %s\n", library.c_str()));
+    print(formatText("%s\n", std::string(pagetexts::kProjectNote).c_str()));
     printFocus(page, focusNames);
 
     std::string line;
@@ -57,8 +58,8 @@ PageResult ConsoleFrontEnd::showModulonPage(ModulonSelectionPage& page, PageCont
       page.editText = argument;
     } else if (command == "w") {
       const SaveFileRequest request = page.browseRequest(context);
-      std::fprintf(out_, "%s (%s%s)\n", request.title.c_str(), request.initialDirectory.c_str(),
-                   request.fileName.c_str());
+      print(formatText("%s (%s%s)\n", request.title.c_str(), request.initialDirectory.c_str(),
+                       request.fileName.c_str()));
       std::string chosen;
       if (prompt(std::string(consoletexts::kBrowseHint), chosen) && !chosen.empty())
         page.applyBrowseChoice(chosen);

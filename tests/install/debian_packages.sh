@@ -27,6 +27,7 @@ done <"$here/package-contents.txt"
 
 core_depends=$(dpkg-deb -f "$(deb plovix)" Depends)
 grep -qi qt <<<"$core_depends" && fail "the core package depends on Qt: $core_depends"
+grep -q libedit2 <<<"$core_depends" || fail "the core package lacks the console's line editor: $core_depends"
 if [ "$PLOVIX_QT_PACKAGE" = 1 ]; then
   qt_depends=$(dpkg-deb -f "$(deb plovix-qt)" Depends)
   grep -q "libqt6widgets6" <<<"$qt_depends" && grep -q "plovix (= " <<<"$qt_depends" ||

@@ -8,12 +8,16 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <termios.h>
+
 #include <chrono>
 #include <string>
+#include <vector>
 
 #include "TempDir.h"
 #include "base/QuestionTexts.h"
 #include "base/Report.h"
+#include "pages/PageTexts.h"
 
 namespace plovix {
 namespace {
@@ -35,20 +39,32 @@ constexpr const char* kCounterDescription =
     "CONNECT: lpm_counter@clock 0 0 0 0 clock 0 0 0 0\n"
     "CONNECT: q 8 0 0 0 lpm_counter@q 8 0 0 0\n";
 
-// plovix --ui console in a pseudo-terminal, with the test's library and project.
+// plovix --ui console in a pseudo-terminal `columns` wide (0: a terminal that gives no width), started in the
+// project folder with the test's library (or the bundled one) and `arguments`.
 class ConsoleSession {
  public:
-  ConsoleSession(const TempDir& dir) {
-    pid_ = forkpty(&master_, nullptr, nullptr, nullptr);
+  explicit ConsoleSession(const TempDir& dir, std::vector<std::string> arguments = {}, int columns = 0,
+                          bool bundledLibrary = false) {
+    winsize size{};
+    size.ws_col = static_cast<unsigned short>(columns);
+    size.ws_row = 50;
+    pid_ = forkpty(&master_, nullptr, nullptr, &size);
     if (pid_ == 0) {
       if (chdir(dir.path("proj").c_str()) != 0) _exit(120);
-      setenv("PLOVIX_LIB_PATH", dir.path("lib").c_str(), 1);
+      const std::string library =
+          bundledLibrary ? std::string(PLOVIX_BINARY_DIR) + "/modulons/lib" : dir.path("lib");
+      setenv("PLOVIX_LIB_PATH", library.c_str(), 1);
       setenv("PLOVIX_USER_LIB_PATH", "", 1);
       setenv("PLOVIX_PROJECT_DIR", dir.path("proj").c_str(), 1);
+      setenv("TERM", "xterm", 1);
       unsetenv("DISPLAY");
       unsetenv("WAYLAND_DISPLAY");
       const std::string program = std::string(PLOVIX_BINARY_DIR) + "/cli/plovix";
-      execl(program.c_str(), program.c_str(), "--ui", "console", static_cast<char*>(nullptr));
+      arguments.insert(arguments.begin(), {program, "--ui", "console"});
+      std::vector<char*> argv;
+      for (std::string& argument : arguments) argv.push_back(argument.data());
+      argv.push_back(nullptr);
+      execv(program.c_str(), argv.data());
       _exit(127);
     }
   }
@@ -72,8 +88,14 @@ class ConsoleSession {
       if (std::chrono::steady_clock::now() > deadline || !readSome(100)) return false;
     }
   }
-  void send(const std::string& line) {
-    const std::string bytes = line + "\n";
+  // Types `bytes` once the line editor reads the keys one by one (it prints its prompt first and then leaves
+  // the terminal's line mode; keys typed before would be taken by the terminal's own line editing).
+  void type(const std::string& bytes) {
+    for (int i = 0; i < 500 && inLineMode(); ++i) usleep(10000);
+    writeRaw(bytes);
+  }
+  void send(const std::string& line) { type(line + "\n"); }
+  void writeRaw(const std::string& bytes) {
     ASSERT_EQ(write(master_, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
   }
   // Waits for the command to end (reading what it still prints) and gives its exit code.
@@ -93,6 +115,10 @@ class ConsoleSession {
   std::string output;
 
  private:
+  bool inLineMode() const {
+    termios mode{};
+    return tcgetattr(master_, &mode) == 0 && (mode.c_lflag & ICANON) != 0;
+  }
   bool readSome(int milliseconds) {
     pollfd fd{master_, POLLIN, 0};
     if (poll(&fd, 1, milliseconds) <= 0) return true;
@@ -183,6 +209,91 @@ TEST_F(ConsoleSessionTest, CreatesAVariationAndEditsItThroughTheBrowser) {
   EXPECT_NE(log.find(" -n ", 0), std::string::npos);
   EXPECT_NE(log.find(dir.path("proj/count8.v"), second), std::string::npos);
   EXPECT_EQ(log.find(" -n ", second), std::string::npos);  // the second run edited the file
+}
+
+// Keys are edited by libedit (cursor keys never echoed as "^[[A"), earlier lines come back with the up key,
+// and texts wrap between words at the terminal's width.
+TEST_F(ConsoleSessionTest, LineEditingHistoryAndWrapping) {
+  ConsoleSession session(dir, {}, 40);
+  ASSERT_TRUE(session.expect("> ")) << session.output;
+  session.send("2");
+  ASSERT_TRUE(session.expect("2 (*) Edit"));
+  ASSERT_TRUE(session.expect("> "));
+  session.send("1");
+  ASSERT_TRUE(session.expect("1 (*) Create"));
+  ASSERT_TRUE(session.expect("> "));
+  session.type("\x1b[A\x1b[A\n");  // up twice: "2" again
+  ASSERT_TRUE(session.expect("2 (*) Edit")) << session.output;
+  ASSERT_TRUE(session.expect("> "));
+  session.send("1");
+  ASSERT_TRUE(session.expect("> "));
+  session.send("n");
+  ASSERT_TRUE(session.expect("[page 2a]"));
+  ASSERT_TRUE(session.expect("> "));
+  session.type("o countX8\x1b[D\x7f\n");  // left, then the key before the cursor deleted
+  EXPECT_TRUE(session.expect("file? count8")) << session.output;
+  session.send("c");
+  EXPECT_EQ(session.exitCode(), 1);
+
+  EXPECT_EQ(session.output.find("^["), std::string::npos) << session.output;
+  std::string flowing;  // the output with its line breaks read as blanks
+  size_t widest = 0;
+  for (size_t start = 0, end; start < session.output.size(); start = end + 1) {
+    end = std::min(session.output.find('\n', start), session.output.size());
+    std::string line = session.output.substr(start, end - start);
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (line.find_first_of("\x1b\b\r") == std::string::npos) widest = std::max(widest, line.size());
+    flowing += line + " ";
+  }
+  EXPECT_LE(widest, 40u) << session.output;
+  EXPECT_NE(flowing.find(std::string(pagetexts::kActionIntro)), std::string::npos) << session.output;
+}
+
+// Ctrl-C ends the command with status 130: at a prompt, while a plug-in runs (which is stopped first), and
+// while the bundled plug-in asks its questions in the terminal.
+TEST_F(ConsoleSessionTest, CtrlCEndsWithStatus130) {
+  dir.write("lib/sleeper",
+            "#!/bin/sh\n"
+            "echo $$ > \"$(dirname \"$0\")/sleeper.pid\"\n"
+            "exec sleep 30\n");
+  chmod(dir.path("lib/sleeper").c_str(), 0755);
+  dir.write("lib/test_wizard.lst", "[counters]\nlpm_counter=" + dir.path("lib/sleeper") + "\n");
+  {
+    ConsoleSession session(dir);
+    ASSERT_TRUE(session.expect("> "));
+    session.type("");
+    session.writeRaw("\x03");
+    EXPECT_EQ(session.exitCode(), 130) << session.output;
+  }
+  {
+    ConsoleSession session(dir, {"count8.v"});
+    ASSERT_TRUE(session.expect("(o/c): "));
+    session.send("o");
+    ASSERT_TRUE(session.expect("> "));
+    session.send("2");
+    ASSERT_TRUE(session.expect("> "));
+    session.send("n");
+    for (int i = 0; i < 500 && dir.read("lib/sleeper.pid").empty(); ++i) usleep(10000);
+    const pid_t plugin = std::atoi(dir.read("lib/sleeper.pid").c_str());
+    ASSERT_GT(plugin, 0) << session.output;
+    session.writeRaw("\x03");
+    EXPECT_EQ(session.exitCode(), 130) << session.output;
+    EXPECT_NE(kill(plugin, 0), 0) << "the plug-in was stopped";
+  }
+  {
+    ConsoleSession session(dir, {"k.tdf"}, 0, true);
+    ASSERT_TRUE(session.expect("(o/c): "));
+    session.send("o");
+    ASSERT_TRUE(session.expect("  lpm_constant"));
+    const size_t line = session.output.rfind('\n', session.output.rfind("  lpm_constant")) + 2;
+    ASSERT_TRUE(session.expect("> "));
+    session.send(std::to_string(std::atoi(session.output.c_str() + line)));
+    ASSERT_TRUE(session.expect("> "));
+    session.send("n");
+    ASSERT_TRUE(session.expect("LPM_WIDTH: ")) << session.output;
+    session.writeRaw("\x03");
+    EXPECT_EQ(session.exitCode(), 130) << session.output;
+  }
 }
 
 TEST_F(ConsoleSessionTest, EndOfInputCancels) {
