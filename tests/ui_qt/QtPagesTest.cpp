@@ -88,7 +88,7 @@ class QtPagesTest : public QObject {
   void frameButtonsAndActionPage() {
     PageContext context{*frontEnd, catalog, corner, "/", ""};
     ActionPage page;
-    page.notice = "notice";
+    page.notice = questions::makerNotice();
     page.pageKind = PageKind::kFirst;
     page.setCaption("Plovix Plug-In Manager [page 1]");
     page.open();
@@ -283,25 +283,26 @@ class QtPagesTest : public QObject {
     app.fetchProjectDirectory();
     StandardRunSteps steps(app, *frontEnd, *frontEnd);
 
-    ModalDriver create;
-    create.answerOtherBoxesWithOk();
-    create.on("actionPage", [](QWidget* dialog) { clickChild(dialog, "next"); });
-    create.on(
-        "modulonPage",
-        [](QWidget* dialog) {
-          clickItem(dialog, "modulonTree", "lpm_counter");
-          clickChild(dialog, "verilog");
-          typeInto(dialog, "outputName", "count8");
-          clickChild(dialog, "next");
-        },
-        "2a-modulon-page");
-    runManager(app, *frontEnd, steps, nullptr, nullptr);
-    QVERIFY2(create.finished(), qPrintable(create.pending().join(",")));
-    for (const char* file : {"proj/count8.v", "proj/count8_inst.v", "proj/count8_bb.v", "proj/count8.sym"}) {
-      QVERIFY2(!dir.read(file).empty(), file);
+    {  // a driver that outlived its run would answer the next run's boxes
+      ModalDriver create;
+      create.answerOtherBoxesWithOk();
+      create.on("actionPage", [](QWidget* dialog) { clickChild(dialog, "next"); });
+      create.on("modulonPage", [](QWidget* dialog) {
+        clickItem(dialog, "modulonTree", "lpm_counter");
+        clickChild(dialog, "verilog");
+        typeInto(dialog, "outputName", "count8");
+      });
+      create.on(
+          "modulonPage", [](QWidget* dialog) { clickChild(dialog, "next"); }, "2a-modulon-page");
+      runManager(app, *frontEnd, steps, nullptr, nullptr);
+      QVERIFY2(create.finished(), qPrintable(create.pending().join(",")));
+      for (const char* file :
+           {"proj/count8.v", "proj/count8_inst.v", "proj/count8_bb.v", "proj/count8.sym"}) {
+        QVERIFY2(!dir.read(file).empty(), file);
+      }
+      QVERIFY(!TempDir::readFile(dir.path("proj/count8.cnx")).size());
+      QVERIFY(dir.read("proj/count8.v").find("lpm_counter") != std::string::npos);
     }
-    QVERIFY(!TempDir::readFile(dir.path("proj/count8.cnx")).size());
-    QVERIFY(dir.read("proj/count8.v").find("lpm_counter") != std::string::npos);
 
     ModalDriver edit;
     edit.answerOtherBoxesWithOk();
@@ -325,6 +326,14 @@ class QtPagesTest : public QObject {
         "2b-browser-page");
     edit.on(
         "browserPage", [](QWidget* dialog) { clickChild(dialog, "next"); }, "2b-browser-page-detailed");
+    edit.on(
+        "messageBox",
+        [&](QWidget* box) {
+          QVERIFY(qobject_cast<QMessageBox*>(box)->text().contains(
+              QString::fromStdString(dir.path("proj/count8.inc"))));
+          answerBox(box, true);
+        },
+        "overwrite-question");
     runManager(app, *frontEnd, steps, nullptr, nullptr);
     QVERIFY2(edit.finished(), qPrintable(edit.pending().join(",")));
 
