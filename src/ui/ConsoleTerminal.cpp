@@ -42,7 +42,10 @@ void wrapLine(std::string_view line, size_t width, std::string& out) {
     if (cut == std::string_view::npos || cut <= ownIndent) cut = rest.find(' ', room);
     if (cut == std::string_view::npos) break;
     const size_t next = rest.find_first_not_of(' ', cut);
-    if (next == std::string_view::npos) break;  // only blanks follow: nothing to carry over
+    if (next == std::string_view::npos) {  // only blanks follow: nothing to carry over
+      rest = rest.substr(0, rest.find_last_not_of(' ') + 1);
+      break;
+    }
     out.append(lead);
     out.append(rest.substr(0, rest.find_last_not_of(' ', cut) + 1));
     out += '\n';
