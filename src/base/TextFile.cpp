@@ -32,15 +32,14 @@ std::string fromTextMode(std::string_view bytes) {
   return out;
 }
 
-bool readTextFile(const std::string& path, std::string& text, int& errorNumber) {
-  text.clear();
+bool readFileBytes(const std::string& path, std::string& bytes, int& errorNumber) {
+  bytes.clear();
   errorNumber = 0;
   std::FILE* file = std::fopen(path.c_str(), "rb");
   if (file == nullptr) {
     errorNumber = errno;
     return false;
   }
-  std::string bytes;
   char buffer[65536];
   size_t n = 0;
   while ((n = std::fread(buffer, 1, sizeof buffer, file)) > 0) bytes.append(buffer, n);
@@ -51,6 +50,13 @@ bool readTextFile(const std::string& path, std::string& text, int& errorNumber) 
     errorNumber = readError == 0 ? EIO : readError;
     return false;
   }
+  return true;
+}
+
+bool readTextFile(const std::string& path, std::string& text, int& errorNumber) {
+  text.clear();
+  std::string bytes;
+  if (!readFileBytes(path, bytes, errorNumber)) return false;
   text = fromTextMode(bytes);
   return true;
 }
@@ -85,6 +91,10 @@ bool writeAll(int fd, std::string_view bytes, int& errorNumber) {
 }  // namespace
 
 bool writeTextFile(const std::string& path, std::string_view text, int& errorNumber) {
+  return writeFileBytes(path, toTextMode(text), errorNumber);
+}
+
+bool writeFileBytes(const std::string& path, std::string_view bytes, int& errorNumber) {
   errorNumber = 0;
   // Refuse what the target itself would refuse, so that a read-only file is never replaced.
   if (access(path.c_str(), F_OK) == 0 && access(path.c_str(), W_OK) != 0) {
@@ -103,7 +113,7 @@ bool writeTextFile(const std::string& path, std::string_view text, int& errorNum
     errorNumber = errno;
     return false;
   }
-  const bool ok = writeAll(fd, toTextMode(text), errorNumber);
+  const bool ok = writeAll(fd, bytes, errorNumber);
   if (ok) {
     const mode_t mode = targetExists ? (targetInfo.st_mode & 07777) : [] {
       const mode_t mask = umask(0);

@@ -11,6 +11,9 @@ namespace plovix {
 std::string toTextMode(std::string_view text);
 std::string fromTextMode(std::string_view bytes);
 
+// Reads a whole file as it is stored. On failure returns false and sets `errorNumber`.
+bool readFileBytes(const std::string& path, std::string& bytes, int& errorNumber);
+
 // Reads a whole file in text mode. On failure returns false and sets `errorNumber`.
 bool readTextFile(const std::string& path, std::string& text, int& errorNumber);
 
@@ -21,6 +24,9 @@ std::vector<std::string> splitLines(std::string_view text);
 // over the target, so the target is never left half-written. On failure returns false and sets
 // `errorNumber`; the target is unchanged.
 bool writeTextFile(const std::string& path, std::string_view text, int& errorNumber);
+
+// The same for bytes written as they are (no line-end conversion).
+bool writeFileBytes(const std::string& path, std::string_view bytes, int& errorNumber);
 
 // Appends `text` in text mode to a file, creating it when missing.
 bool appendTextFile(const std::string& path, std::string_view text, int& errorNumber);
