@@ -81,7 +81,7 @@ bool chooseFirstState(ManagerApp& app, UserInterface& ui, const char* fileName) 
     }
     return true;
   }
-  if (!ui.ask(questions::notWizardGenerated(argument))) return false;
+  if (!ui.askToReplaceUserFile(questions::notWizardGenerated(argument), argument)) return false;
   run.newFile = false;
   run.state = RunState::kBrowserPage;
   return true;

@@ -7,6 +7,7 @@
 #include "base/QuestionTexts.h"
 #include "base/Report.h"
 #include "base/TextHelpers.h"
+#include "pages/FileList.h"
 #include "pages/PageHost.h"
 #include "pages/PagePaths.h"
 #include "pages/PageTexts.h"
@@ -146,7 +147,12 @@ bool ModulonSelectionPage::validatePage(PageContext& context) {
       focusControl = kControlOutputName;
       return false;
     }
-    if (!ui.ask(questions::overwriteFile(path))) return false;
+    // Replacing a file that no wizard generated is the question batch does not answer OK by itself.
+    const std::string question = questions::overwriteFile(path);
+    const bool replace = signatureNamesModulon(readModulonNameOfFile(path))
+                             ? ui.ask(question)
+                             : ui.askToReplaceUserFile(question, path);
+    if (!replace) return false;
   }
   return true;
 }

@@ -295,7 +295,7 @@ bool VariationBrowserPage::validatePage(PageContext& context) {
         newVariation = true;
       }
     } else {
-      if (!ui.ask(questions::notWizardGenerated(path))) return false;
+      if (!ui.askToReplaceUserFile(questions::notWizardGenerated(path), path)) return false;
       newVariation = true;
     }
   }
