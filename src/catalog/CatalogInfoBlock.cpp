@@ -1,4 +1,4 @@
-// The INFO element of a catalog entry and its children ABSTRACT, ALIAS, NATIVE_HDL and NATIVE_TOOL.
+// The INFO element of a catalog entry and its children ABSTRACT, ALIAS, NATIVE_HDL, NATIVE_TOOL and DESCRIBE.
 #include "catalog/CatalogInfoBlock.h"
 
 #include "base/TextHelpers.h"
@@ -58,6 +58,11 @@ void readInformationBlock(const std::string& block, const std::string& platform,
     } else if (name == "NATIVE_TOOL") {
       entry.nativeTool = attributeOf(*child, "NAME");
       appendScripts(*child, platform, entry);
+    } else if (name == "DESCRIBE") {
+      // The plug-in describes its settings when started with these words added.
+      entry.describes = true;
+      entry.describeArgs = trimText(attributeOf(*child, "ARGS"));
+      if (entry.describeArgs.empty()) entry.describeArgs = kDefaultDescribeArgs;
     }
   }
 }

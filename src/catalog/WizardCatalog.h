@@ -19,7 +19,9 @@ struct CatalogEntry {
   bool supports2D = true;
   std::string nativeHdl;
   std::string nativeTool;
-  std::string scripts;  // each applicable script HREF followed by "+"
+  std::string scripts;       // each applicable script HREF followed by "+"
+  bool describes = false;    // the plug-in can describe its settings (a DESCRIBE element)
+  std::string describeArgs;  // the words that make it do so, as a command-line text
   int variantNumber = 1;
   bool primary = true;
 };
