@@ -164,6 +164,11 @@ PLOVIX_HOST_API void sym_measure_text(const char* face, int height, const char* 
 PLOVIX_HOST_API int sym_render_svg(const char* sym_path, char** svg, int* error_number, int* error_line);
 PLOVIX_HOST_API void sym_free_text(char* text);
 
+/* 1 when the .sym file reads as a symbol laid out by the automatic symbol (gio_sym_auto_gen_*): its name, the
+ * box, a stub and a pin text per pin and at most a parameter block, in that order; 0 for a symbol drawn
+ * element by element, or a file that cannot be read as a symbol. */
+PLOVIX_HOST_API int sym_has_automatic_layout(const char* sym_path);
+
 #ifdef __cplusplus
 }
 #endif
