@@ -1,0 +1,68 @@
+// Generating a variation's files again from the retrieval info of its design file.
+#include "entry/RegenerateVariation.h"
+
+#include "base/Format.h"
+#include "base/OutputKinds.h"
+#include "base/PathText.h"
+#include "base/TextFile.h"
+#include "entry/GenerateVariation.h"
+
+namespace plovix {
+
+namespace {
+
+// The error log without its banner: the entries, each naming its line and fault.
+std::string errorLogEntries(const std::string& logPath) {
+  std::string log;
+  int errorNumber = 0;
+  if (!readTextFile(logPath, log, errorNumber)) return {};
+  const size_t entries = log.find("\n\n");
+  return entries == std::string::npos ? std::string() : log.substr(entries + 2);
+}
+
+// The CNX file rebuilt from the design file, with the generation line a plug-in would write before it.
+bool prepareDescription(UserInterface& ui, const std::string& scratchDesign, std::string& cnxPath) {
+  CnxDescription extracted;
+  if (!extracted.extractRetrievalInfo(ui, scratchDesign) || extracted.cnxPath.empty()) return false;
+  cnxPath = extracted.cnxPath;
+  std::string body;
+  int errorNumber = 0;
+  return readTextFile(cnxPath, body, errorNumber) &&
+         writeTextFile(cnxPath, formatText("%s %s\n", "GENERATION:", "STANDARD") + body, errorNumber);
+}
+
+}  // namespace
+
+RegeneratedVariation regenerateVariation(ManagerApp& app, UserInterface& ui, const std::string& designFile,
+                                         const std::string& directory) {
+  RegeneratedVariation result;
+  // The design file is read in the directory, so that the rebuilt CNX file lands there too.
+  const std::string scratchDesign = directory + nameWithExtension(designFile);
+  std::string bytes;
+  int errorNumber = 0;
+  if (!readFileBytes(designFile, bytes, errorNumber) || !writeFileBytes(scratchDesign, bytes, errorNumber))
+    return result;
+
+  std::string cnxPath;
+  if (!prepareDescription(ui, scratchDesign, cnxPath)) return result;
+  auto description = std::make_unique<CnxDescription>(cnxPath);
+  if (!description->readDescription(ui)) {
+    result.errorLog = errorLogEntries(description->errorLogPath);
+    description->deleteWorkFiles();
+    return result;
+  }
+
+  ManagerRun& run = app.run;
+  run.outcome = RunOutcome{};
+  run.catalog.reset();  // no catalog: no native-language copy
+  run.modulonName = readModulonNameOfFile(designFile);
+  run.description = std::move(description);
+  generateVariationFiles(app, ui, scratchDesign, true, true);
+  run.description->deleteWorkFiles();
+  run.description.reset();
+  result.generated = run.outcome.generated && run.outcome.notWritten.empty();
+  result.files = run.outcome.written;
+  return result;
+}
+
+}  // namespace plovix
