@@ -3,7 +3,9 @@
 #include <string>
 
 #include "Subcommands.h"
+#include "base/HostQueries.h"
 #include "catalog/WizardCatalog.h"
+#include "ui/BatchHints.h"
 
 namespace plovix {
 
@@ -43,9 +45,10 @@ std::string tableLine(const CatalogEntry& entry) {
 
 }  // namespace
 
-int listModulons(UserInterface& ui) {
+int listModulons(BatchFrontEnd& messages) {
   WizardCatalog catalog;
-  catalog.load(ui);
+  catalog.load(messages);
+  if (catalog.entries().empty()) messages.hint(emptyCatalogHint(libraryPath(true), libraryPath(false)));
   std::string table = kHeader;
   for (const CatalogEntry& entry : catalog.entries()) table += tableLine(entry);
   std::fwrite(table.data(), 1, table.size(), stdout);

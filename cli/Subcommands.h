@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/UserInterface.h"
+#include "ui/BatchFrontEnd.h"
 
 namespace plovix {
 
@@ -12,10 +13,15 @@ namespace plovix {
 // reports so, naming the places looked in, and gives false.
 bool modulonLibraryFound(UserInterface& ui);
 
-// Prints the catalog as a tab-separated table on standard output; the exit status.
-int listModulons(UserInterface& ui);
+// Prints the catalog as a tab-separated table on standard output; the exit status. An empty catalog gets a
+// hint naming the library paths read.
+int listModulons(BatchFrontEnd& messages);
 
 // Writes an SVG picture of a .sym file to standard output; the exit status.
 int renderSymbol(UserInterface& ui, const std::string& symPath);
+
+// Prints a modulon's catalog entry and the settings its plug-in describes, as text or as one JSON object;
+// the exit status.
+int describeModulonCommand(BatchFrontEnd& messages, const std::string& name, bool json);
 
 }  // namespace plovix

@@ -1,13 +1,40 @@
-// The plovix command: one manager run, scripted or interactive, as a small host of the manager.
+// The plovix command: one manager run, scripted or interactive, as a small host of the manager; or one of the
+// sub-commands.
 #include <cstdio>
 #include <memory>
 
+#include "Check.h"
 #include "CommandLine.h"
+#include "RunManifest.h"
 #include "Subcommands.h"
 #include "entry/ManagerApp.h"
 #include "entry/RunFlow.h"
 #include "entry/StandardRunSteps.h"
 #include "ui/BatchFrontEnd.h"
+
+namespace {
+
+// A sub-command: never a window; its messages go to standard error.
+int runTask(const plovix::CommandLine& commandLine) {
+  plovix::BatchFrontEnd messages(commandLine.frontEnd);
+  switch (commandLine.task) {
+    case plovix::Task::kRenderSymbol:
+      return plovix::renderSymbol(messages, commandLine.renderSymbol);
+    case plovix::Task::kListModulons:
+      return plovix::modulonLibraryFound(messages) ? plovix::listModulons(messages) : 1;
+    case plovix::Task::kDescribeModulon:
+      if (!plovix::modulonLibraryFound(messages)) return 1;
+      return plovix::describeModulonCommand(messages, commandLine.describeModulon, commandLine.json);
+    case plovix::Task::kCheck:
+      return plovix::runCheck(
+          messages, {commandLine.checkPaths, commandLine.update, commandLine.jobs, commandLine.json});
+    case plovix::Task::kRun:
+      break;
+  }
+  return 1;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   plovix::CommandLine commandLine;
@@ -19,25 +46,26 @@ int main(int argc, char** argv) {
     case plovix::ParseOutcome::kRun:
       break;
   }
-
-  if (commandLine.listModulons || !commandLine.renderSymbol.empty()) {
-    // Sub-commands never open a window: their messages go to standard error.
-    plovix::BatchFrontEnd messages(commandLine.frontEnd);
-    if (!commandLine.renderSymbol.empty()) return plovix::renderSymbol(messages, commandLine.renderSymbol);
-    return plovix::modulonLibraryFound(messages) ? plovix::listModulons(messages) : 1;
-  }
+  if (commandLine.task != plovix::Task::kRun) return runTask(commandLine);
 
   commandLine.frontEnd.startedByCommand = true;
   std::unique_ptr<plovix::FrontEnd> frontEnd = plovix::makeFrontEnd(commandLine.frontEnd);
-  if (!plovix::modulonLibraryFound(*frontEnd)) return 1;
-
+  auto* batch = dynamic_cast<plovix::BatchFrontEnd*>(frontEnd.get());
   plovix::ManagerApp& app = plovix::ManagerApp::instance();
-  app.restoreDirectoryAtExit = false;
-  app.fetchProjectDirectory();
-  plovix::StandardRunSteps steps(app, *frontEnd, *frontEnd);
-  plovix::runManager(app, *frontEnd, steps,
-                     commandLine.hasDesignFile ? commandLine.designFile.c_str() : nullptr,
-                     commandLine.pluginArgs.c_str());
+  int status = plovix::RunOutcome::kNotGenerated;
+  if (plovix::modulonLibraryFound(*frontEnd)) {
+    app.restoreDirectoryAtExit = false;
+    app.fetchProjectDirectory();
+    plovix::StandardRunSteps steps(app, *frontEnd, *frontEnd);
+    plovix::runManager(app, *frontEnd, steps,
+                       commandLine.hasDesignFile ? commandLine.designFile.c_str() : nullptr,
+                       commandLine.pluginArgs.c_str());
+    status = app.run.outcome.exitStatus();
+  }
   frontEnd->showSummary(app.run.outcome);
-  return app.run.outcome.exitStatus();
+  if (commandLine.json && batch != nullptr &&
+      !plovix::printJson(
+          plovix::runManifest(commandLine.designFile, app.run.outcome, status, batch->boxes())))
+    return 1;
+  return status;
 }

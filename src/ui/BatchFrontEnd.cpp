@@ -1,12 +1,13 @@
 // Implementation of the batch front end: boxes as lines on standard error, pages filled from the options.
 #include "ui/BatchFrontEnd.h"
 
-#include "base/OutputKinds.h"
-
 #include <cstdio>
 
 #include "base/FileSystem.h"
+#include "base/OutputKinds.h"
 #include "base/PathText.h"
+#include "base/Report.h"
+#include "ui/BatchHints.h"
 
 namespace plovix {
 
@@ -27,26 +28,46 @@ std::string escapeBoxText(const std::string& text) {
   return out;
 }
 
-void BatchFrontEnd::report(const std::string& text) {
-  std::fprintf(stderr, "report: %s\n", escapeBoxText(text).c_str());
+std::string batchLine(std::string_view kind, const std::string& text) {
+  return std::string(kind) + ": " + escapeBoxText(text) + "\n";
+}
+
+void BatchFrontEnd::show(std::string_view kind, const std::string& text, const std::string& answer) {
+  const std::string line = answer.empty() ? batchLine(kind, text) : batchLine(kind, text + " => " + answer);
+  std::fwrite(line.data(), 1, line.size(), stderr);
   std::fflush(stderr);
+  boxes_.push_back({std::string(kind), text, answer});
+}
+
+void BatchFrontEnd::report(const std::string& text) {
+  show("report", text);
 }
 
 bool BatchFrontEnd::ask(const std::string& text) {
-  std::fprintf(stderr, "question: %s => %s\n", escapeBoxText(text).c_str(),
-               options_.answerOk ? "OK" : "Cancel");
-  std::fflush(stderr);
+  show("question", text, options_.answerOk ? "OK" : "Cancel");
   return options_.answerOk;
 }
 
-namespace {
-
-// A page that is still open after Next (a check failed and was reported) ends with Cancel, so that a batch
-// run never waits for input.
-PageResult finishWithNext(WizardPageFrame& page, PageContext& context) {
-  if (!page.pressNext(context, std::nullopt)) page.pressCancel();
-  return page.result;
+bool BatchFrontEnd::askToReplaceUserFile(const std::string& text, const std::string& path) {
+  if (options_.force) return ask(text);
+  show("question", text, "Cancel");
+  hint(errorMessage(Msg::kHintForce, path));
+  return false;
 }
+
+void BatchFrontEnd::hint(const std::string& text) {
+  show("hint", text);
+}
+
+void BatchFrontEnd::showSummary(const RunOutcome& outcome) {
+  std::string lines;
+  for (const std::string& path : outcome.written) lines += batchLine("wrote", path);
+  for (const std::string& warning : outcome.warnings) lines += batchLine("warning", warning);
+  std::fwrite(lines.data(), 1, lines.size(), stderr);
+  std::fflush(stderr);
+}
+
+namespace {
 
 // The file the run names when the page is shown, as a full path; empty when the run names none.
 std::string designFileName(const PageContext& context) {
@@ -55,6 +76,14 @@ std::string designFileName(const PageContext& context) {
 }
 
 }  // namespace
+
+PageResult BatchFrontEnd::finishWithNext(WizardPageFrame& page, PageContext& context,
+                                         const std::string& hint) {
+  const size_t boxesBefore = boxes_.size();
+  if (!page.pressNext(context, std::nullopt)) page.pressCancel();
+  if (!hint.empty() && boxes_.size() > boxesBefore) this->hint(hint);
+  return page.result;
+}
 
 bool BatchFrontEnd::shownBefore(const WizardPageFrame& page) {
   return !shown_.insert(&page).second;
@@ -67,7 +96,7 @@ PageResult BatchFrontEnd::showActionPage(ActionPage& page, PageContext& context)
     return page.result;
   }
   page.createChecked = !options_.modulon.empty();
-  return finishWithNext(page, context);
+  return finishWithNext(page, context, {});
 }
 
 PageResult BatchFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContext& context) {
@@ -77,14 +106,17 @@ PageResult BatchFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContex
     return page.result;
   }
   page.editText = designFileName(context);
+  std::string hint;
   if (!options_.modulon.empty()) {
     int item = page.tree.findByText(options_.modulon);
     if (item == ModulonTree::kNoItem)
       item = page.tree.findByText(context.catalog.resolveAlias(options_.modulon));
     page.tree.select(item);
+    if (item == ModulonTree::kNoItem) hint = unknownModulonHint(context.catalog, options_.modulon);
   }
   if (const OutputKind* kind = outputKindOfCliWord(options_.language)) page.languageIndex = kind->buttonIndex;
-  return finishWithNext(page, context);
+  if (hint.empty() && !page.editText.empty()) hint = directoryHint(directoryOfPath(page.editText));
+  return finishWithNext(page, context, hint);
 }
 
 PageResult BatchFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContext& context) {
@@ -96,7 +128,13 @@ PageResult BatchFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContex
   // The box shows the modulon the file's signature names, unless the batch names one.
   page.changeFileName(page.fileNameText);
   if (!options_.modulon.empty()) page.modulonText = options_.modulon;
-  return finishWithNext(page, context);
+  std::string hint;
+  const std::string file = designFileName(context);
+  if (!file.empty()) hint = directoryHint(directoryOfPath(file));
+  if (hint.empty() && !page.modulonText.empty() && !catalogListsModulon(context.catalog, page.modulonText) &&
+      !WizardCatalog::isNotWizardMarker(page.modulonText))
+    hint = unknownModulonHint(context.catalog, page.modulonText);
+  return finishWithNext(page, context, hint);
 }
 
 }  // namespace plovix

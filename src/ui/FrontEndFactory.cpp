@@ -3,10 +3,12 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 
 #include "InstallLayout.h"
 #include "base/FileSystem.h"
+#include "base/OutputKinds.h"
 #include "base/QuestionTexts.h"
 #include "base/Report.h"
 #include "base/TextHelpers.h"
@@ -29,13 +31,45 @@ bool parseFrontEndKind(const std::string& text, FrontEndKind& kind) {
   return true;
 }
 
+namespace {
+
+// The variables of the batch choices and the values each takes.
+struct SettingValues {
+  const char* variable;
+  std::vector<std::string> values;
+};
+
+std::vector<SettingValues> frontEndSettings() {
+  std::vector<std::string> languages;
+  for (const OutputKind& kind : kOutputKinds) languages.emplace_back(kind.cliWord);
+  return {{"PLOVIX_UI", {"batch", "console", "qt"}},
+          {"PLOVIX_ANSWER", {"ok", "cancel"}},
+          {"PLOVIX_LANGUAGE", languages}};
+}
+
+}  // namespace
+
+std::string invalidFrontEndSetting(const std::vector<std::string>& overridden) {
+  for (const SettingValues& setting : frontEndSettings()) {
+    if (std::find(overridden.begin(), overridden.end(), setting.variable) != overridden.end()) continue;
+    const std::string value = environmentVariable(setting.variable);
+    if (value.empty()) continue;
+    const std::string word = toLowerText(value);
+    if (std::find(setting.values.begin(), setting.values.end(), word) != setting.values.end()) continue;
+    std::string values;
+    for (const std::string& allowed : setting.values) values += (values.empty() ? "" : ", ") + allowed;
+    return errorMessage(Msg::kUsageInvalidEnvironment, setting.variable, value, values);
+  }
+  return {};
+}
+
 FrontEndOptions frontEndOptionsFromEnvironment() {
   FrontEndOptions options;
   FrontEndKind kind;
-  if (parseFrontEndKind(environmentVariable("PLOVIX_UI"), kind)) options.kind = kind;
+  if (parseFrontEndKind(toLowerText(environmentVariable("PLOVIX_UI")), kind)) options.kind = kind;
   options.modulon = environmentVariable("PLOVIX_MODULON");
   options.language = toLowerText(environmentVariable("PLOVIX_LANGUAGE"));
-  options.answerOk = environmentVariable("PLOVIX_ANSWER") != "cancel";
+  options.answerOk = toLowerText(environmentVariable("PLOVIX_ANSWER")) != "cancel";
   return options;
 }
 

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "ui/FrontEnd.h"
 
@@ -18,6 +19,7 @@ struct FrontEndOptions {
   // Started by the plovix command, not by a host of libvamlet.so: the console then ends the process on
   // Ctrl-C with status 130.
   bool startedByCommand = false;
+  bool force = false;    // batch: questions that replace a file no wizard generated are answered too
 };
 
 // The options as the environment sets them.
@@ -25,6 +27,11 @@ FrontEndOptions frontEndOptionsFromEnvironment();
 
 // Parses a PLOVIX_UI / --ui value; false when it is none of batch, console, qt.
 bool parseFrontEndKind(const std::string& text, FrontEndKind& kind);
+
+// The first of PLOVIX_UI, PLOVIX_ANSWER and PLOVIX_LANGUAGE that is set to a value it does not take, as the
+// usage error that names it and its values; empty when they are all valid. A variable named in `overridden`
+// (its option was given) is not looked at.
+std::string invalidFrontEndSetting(const std::vector<std::string>& overridden);
 
 // The front end of the options' kind; automatic means Qt when a display is there and the Qt module is
 // installed, else console when standard input is a terminal, else batch. Qt asked for where it cannot be used
