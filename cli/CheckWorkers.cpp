@@ -45,10 +45,19 @@ bool fileFromJson(const JsonValue& json, FileVerdict& file) {
   return true;
 }
 
+// Where scratch directories go: TMPDIR when it is set; else a file system in memory when there is one (the
+// user's runtime directory, /dev/shm), since every variation writes and deletes a dozen small files there;
+// else /tmp.
+std::string scratchBase() {
+  for (const std::string& base : {environmentVariable("TMPDIR"), environmentVariable("XDG_RUNTIME_DIR")}) {
+    if (!base.empty()) return base;
+  }
+  return isDirectory("/dev/shm") && access("/dev/shm", W_OK | X_OK) == 0 ? "/dev/shm" : "/tmp";
+}
+
 // A scratch directory of this process, with its trailing "/"; empty when none can be made.
 std::string makeScratchDirectory() {
-  const std::string base = environmentVariable("TMPDIR").empty() ? "/tmp" : environmentVariable("TMPDIR");
-  std::string pattern = base + "/plovix-check-XXXXXX";
+  std::string pattern = scratchBase() + "/plovix-check-XXXXXX";
   if (mkdtemp(pattern.data()) == nullptr) return {};
   return pattern + "/";
 }

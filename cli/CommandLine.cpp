@@ -95,11 +95,7 @@ std::string combinationError(const CLI::App& app, const Sources& in, CommandLine
     return errorMessage(Msg::kUsageJsonNotHere, tasks[0].first);
   if (out.json && out.task == Task::kRun && !in.ui.empty() && in.ui != "batch")
     return errorMessage(Msg::kUsageJsonNeedsBatch, in.ui);
-  std::vector<std::string> overridden;
-  if (!in.ui.empty() || in.batch || out.json) overridden.emplace_back("PLOVIX_UI");
-  if (!in.answer.empty()) overridden.emplace_back("PLOVIX_ANSWER");
-  if (!in.language.empty()) overridden.emplace_back("PLOVIX_LANGUAGE");
-  return invalidFrontEndSetting(overridden);
+  return invalidFrontEndSetting();
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 // The plovix command: one manager run, scripted or interactive, as a small host of the manager; or one of the
 // sub-commands.
+#include <unistd.h>
+
 #include <cstdio>
 #include <memory>
 
@@ -49,6 +51,15 @@ int main(int argc, char** argv) {
   if (commandLine.task != plovix::Task::kRun) return runTask(commandLine);
 
   commandLine.frontEnd.startedByCommand = true;
+  // With --json standard output carries the object alone: what plug-ins and scripts print goes to standard
+  // error while the run lasts.
+  int jsonOutput = -1;
+  if (commandLine.json) {
+    std::fflush(stdout);
+    jsonOutput = dup(STDOUT_FILENO);
+    dup2(STDERR_FILENO, STDOUT_FILENO);
+  }
+
   std::unique_ptr<plovix::FrontEnd> frontEnd = plovix::makeFrontEnd(commandLine.frontEnd);
   auto* batch = dynamic_cast<plovix::BatchFrontEnd*>(frontEnd.get());
   plovix::ManagerApp& app = plovix::ManagerApp::instance();
@@ -63,9 +74,13 @@ int main(int argc, char** argv) {
     status = app.run.outcome.exitStatus();
   }
   frontEnd->showSummary(app.run.outcome);
-  if (commandLine.json && batch != nullptr &&
-      !plovix::printJson(
-          plovix::runManifest(commandLine.designFile, app.run.outcome, status, batch->boxes())))
-    return 1;
+  if (jsonOutput >= 0) {
+    std::fflush(stdout);
+    dup2(jsonOutput, STDOUT_FILENO);
+    close(jsonOutput);
+    if (batch != nullptr && !plovix::printJson(plovix::runManifest(commandLine.designFile, app.run.outcome,
+                                                                   status, batch->boxes())))
+      return 1;
+  }
   return status;
 }

@@ -180,6 +180,8 @@ constexpr Row kTable[] = {
     {Msg::kDescribeExitStatus, "it ended with exit status %s"},
     {Msg::kDescribeKilled, "it was ended by signal %s"},
     {Msg::kHintWhileChecking, "the box above came while checking %s"},
+    {Msg::kHintNoModulon,
+     "no modulon was named: give one with --modulon NAME (plovix --list-modulons lists them)"},
     {Msg::kDescribeOutputTooLarge, "it printed more than %s bytes"},
     {Msg::kDescribeNotJson, "its output is not JSON (line %s, column %s: %s)"},
     {Msg::kDescribeBadField, "its output has no valid %s"},

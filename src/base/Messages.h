@@ -145,6 +145,7 @@ enum class Msg : int {
   kDescribeExitStatus,
   kDescribeKilled,
   kHintWhileChecking,
+  kHintNoModulon,
   kDescribeOutputTooLarge,
   kDescribeNotJson,
   kDescribeBadField,

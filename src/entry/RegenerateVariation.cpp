@@ -1,6 +1,7 @@
 // Generating a variation's files again from the retrieval info of its design file.
 #include "entry/RegenerateVariation.h"
 
+#include "base/FileSystem.h"
 #include "base/Format.h"
 #include "base/OutputKinds.h"
 #include "base/PathText.h"
@@ -27,7 +28,8 @@ bool prepareDescription(UserInterface& ui, const std::string& scratchDesign, std
   cnxPath = extracted.cnxPath;
   std::string body;
   int errorNumber = 0;
-  return readTextFile(cnxPath, body, errorNumber) &&
+  // Written anew rather than replaced: replacing a file just written makes some file systems flush it.
+  return readTextFile(cnxPath, body, errorNumber) && deleteFile(cnxPath) &&
          writeTextFile(cnxPath, formatText("%s %s\n", "GENERATION:", "STANDARD") + body, errorNumber);
 }
 
@@ -52,6 +54,8 @@ RegeneratedVariation regenerateVariation(ManagerApp& app, UserInterface& ui, con
     return result;
   }
 
+  // The copy has served; the design file is written anew, not over it (see prepareDescription).
+  deleteFile(scratchDesign);
   ManagerRun& run = app.run;
   run.outcome = RunOutcome{};
   run.catalog.reset();  // no catalog: no native-language copy

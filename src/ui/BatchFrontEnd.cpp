@@ -75,6 +75,14 @@ std::string designFileName(const PageContext& context) {
   return fullPath(context.outputPath);
 }
 
+// What is wrong with the directory of the design file, else with the page's own directory (the project's).
+std::string directoryHints(const std::string& designFile, const std::string& pageDirectory) {
+  std::string hint;
+  if (!designFile.empty()) hint = directoryHint(directoryOfPath(designFile));
+  if (hint.empty() && !pageDirectory.empty()) hint = directoryHint(pageDirectory);
+  return hint;
+}
+
 }  // namespace
 
 PageResult BatchFrontEnd::finishWithNext(WizardPageFrame& page, PageContext& context,
@@ -106,16 +114,17 @@ PageResult BatchFrontEnd::showModulonPage(ModulonSelectionPage& page, PageContex
     return page.result;
   }
   page.editText = designFileName(context);
-  std::string hint;
+  std::string hint = errorMessage(Msg::kHintNoModulon);
   if (!options_.modulon.empty()) {
     int item = page.tree.findByText(options_.modulon);
     if (item == ModulonTree::kNoItem)
       item = page.tree.findByText(context.catalog.resolveAlias(options_.modulon));
     page.tree.select(item);
-    if (item == ModulonTree::kNoItem) hint = unknownModulonHint(context.catalog, options_.modulon);
+    hint =
+        item == ModulonTree::kNoItem ? unknownModulonHint(context.catalog, options_.modulon) : std::string();
   }
   if (const OutputKind* kind = outputKindOfCliWord(options_.language)) page.languageIndex = kind->buttonIndex;
-  if (hint.empty() && !page.editText.empty()) hint = directoryHint(directoryOfPath(page.editText));
+  if (hint.empty()) hint = directoryHints(page.editText, page.directory);
   return finishWithNext(page, context, hint);
 }
 
@@ -128,9 +137,7 @@ PageResult BatchFrontEnd::showBrowserPage(VariationBrowserPage& page, PageContex
   // The box shows the modulon the file's signature names, unless the batch names one.
   page.changeFileName(page.fileNameText);
   if (!options_.modulon.empty()) page.modulonText = options_.modulon;
-  std::string hint;
-  const std::string file = designFileName(context);
-  if (!file.empty()) hint = directoryHint(directoryOfPath(file));
+  std::string hint = directoryHints(designFileName(context), page.directory);
   if (hint.empty() && !page.modulonText.empty() && !catalogListsModulon(context.catalog, page.modulonText) &&
       !WizardCatalog::isNotWizardMarker(page.modulonText))
     hint = unknownModulonHint(context.catalog, page.modulonText);

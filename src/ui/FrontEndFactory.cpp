@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <vector>
 
 #include "InstallLayout.h"
 #include "base/FileSystem.h"
@@ -49,9 +50,8 @@ std::vector<SettingValues> frontEndSettings() {
 
 }  // namespace
 
-std::string invalidFrontEndSetting(const std::vector<std::string>& overridden) {
+std::string invalidFrontEndSetting() {
   for (const SettingValues& setting : frontEndSettings()) {
-    if (std::find(overridden.begin(), overridden.end(), setting.variable) != overridden.end()) continue;
     const std::string value = environmentVariable(setting.variable);
     if (value.empty()) continue;
     const std::string word = toLowerText(value);

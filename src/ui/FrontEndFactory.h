@@ -3,7 +3,6 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "ui/FrontEnd.h"
 
@@ -28,10 +27,10 @@ FrontEndOptions frontEndOptionsFromEnvironment();
 // Parses a PLOVIX_UI / --ui value; false when it is none of batch, console, qt.
 bool parseFrontEndKind(const std::string& text, FrontEndKind& kind);
 
-// The first of PLOVIX_UI, PLOVIX_ANSWER and PLOVIX_LANGUAGE that is set to a value it does not take, as the
-// usage error that names it and its values; empty when they are all valid. A variable named in `overridden`
-// (its option was given) is not looked at.
-std::string invalidFrontEndSetting(const std::vector<std::string>& overridden);
+// The first of PLOVIX_UI, PLOVIX_ANSWER and PLOVIX_LANGUAGE that is set to a value it does not take (case
+// ignored), as the usage error that names it and its values; empty when they are all valid. An option that
+// overrides the variable does not make a bad value good.
+std::string invalidFrontEndSetting();
 
 // The front end of the options' kind; automatic means Qt when a display is there and the Qt module is
 // installed, else console when standard input is a terminal, else batch. Qt asked for where it cannot be used

@@ -140,9 +140,9 @@ TEST_F(CatalogTest, InformationBlockFillsTheEntry) {
             "<NATIVE_TOOL NAME=\"tool\">\n"
             "<SCRIPT OS_NAME=\"LINUX\" HREF=\"b.sh %p\"/><SCRIPT OS_NAME=\"solaris\" HREF=\"c.sh\"/>\n"
             "<ANY HREF=\"d.sh\"/><SCRIPT OS_NAME=\"linux\"/>\n"
-            "</NATIVE_TOOL><OTHER/>\n"
+            "</NATIVE_TOOL><OTHER/><DESCRIBE ARGS=\" --describe  -v \"/>\n"
             "</INFO>\n"
-            "NEXT=next\n");
+            "NEXT=next <INFO><DESCRIBE/></INFO>\n");
   load("@");
   ASSERT_EQ(names(), (Strings{"COUNTER", "NEXT"}));
   const CatalogEntry& entry = catalog.entries()[0];
@@ -156,6 +156,9 @@ TEST_F(CatalogTest, InformationBlockFillsTheEntry) {
   EXPECT_EQ(catalog.resolveAlias("older"), "COUNTER");
   EXPECT_EQ(catalog.resolveAlias(""), "COUNTER");
   EXPECT_EQ(catalog.resolveAlias("old_counter"), "old_counter");
+  EXPECT_TRUE(entry.describes);
+  EXPECT_EQ(entry.describeArgs, "--describe  -v");
+  EXPECT_EQ(catalog.entries()[1].describeArgs, "--describe");  // the default when ARGS is missing
   EXPECT_TRUE(ui.boxes.empty());
 }
 
