@@ -161,5 +161,27 @@ TEST(BatchRun, SubcommandsNeverOpenAWindow) {
   }
 }
 
+// Every bundled modulon's plug-in describes its settings through its catalog's DESCRIBE element; the text form
+// gives each setting a line of its own.
+TEST(BatchRun, EveryBundledModulonDescribesItself) {
+  const CommandResult list = runCommand(plovixProgram(), {"--list-modulons"});
+  ASSERT_EQ(list.exitCode, 0);
+  size_t modulons = 0;
+  for (size_t line = list.out.find('\n') + 1; line < list.out.size(); line = list.out.find('\n', line) + 1) {
+    const std::string name = list.out.substr(line, list.out.find('\t', line) - line);
+    const CommandResult json = runCommand(plovixProgram(), {"--describe-modulon", name, "--json"});
+    JsonValue described;
+    JsonError error;
+    ASSERT_TRUE(parseJson(json.out, described, error)) << name << json.err;
+    EXPECT_EQ(json.exitCode, 0) << name << json.err;
+    EXPECT_TRUE(described.member("described")->boolean) << name;
+    const CommandResult text = runCommand(plovixProgram(), {"--describe-modulon", name});
+    for (const JsonValue& setting : described.member("settings")->items)
+      EXPECT_TRUE(contains(text.out, "\n  " + setting.member("name")->text + " ")) << name << text.out;
+    ++modulons;
+  }
+  EXPECT_GT(modulons, 20u);
+}
+
 }  // namespace
 }  // namespace plovix
