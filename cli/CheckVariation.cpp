@@ -1,7 +1,5 @@
 // plovix --check for one variation: its files generated again in a scratch directory and compared byte for
 // byte with the files beside its design file.
-#include <cstring>
-
 #include "Check.h"
 #include "base/FileSystem.h"
 #include "base/PathText.h"

@@ -61,7 +61,7 @@ std::string withLanguageExtension(const std::string& name, const std::string& la
 
 struct Sources {
   std::string ui, language, answer, project, userLibPath, libPath, topFile;
-  bool batch = false, listModulons = false, check = false;
+  bool batch = false;
   std::vector<std::string> pluginArgs, files;
 };
 
@@ -135,15 +135,15 @@ ParseOutcome parseCommandLine(int argc, char** argv, CommandLine& out) {
       ->expected(1)
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
       ->allow_extra_args(false);
-  app.add_flag("--check", in.check,
-               "Check that the files of every variation under the given files and directories (default .) "
-               "match what their design files generate; print 'drift: PATH' for each that does not");
+  app.add_flag("--check")->description(
+      "Check that the files of every variation under the given files and directories (default .) match what "
+      "their design files generate; print 'drift: PATH' for each that does not");
   app.add_flag("--update", out.update, "With --check: rewrite the files that drifted");
   app.add_option("-j,--jobs", out.jobs, "With --check: check N variations at a time (default 1)")
       ->check(CLI::Range(1, 256));
   app.add_option("--describe-modulon", out.describeModulon,
                  "Print a modulon's catalog entry and the settings its plug-in takes");
-  app.add_flag("--list-modulons", in.listModulons, "Print the catalog of modulons and exit");
+  app.add_flag("--list-modulons")->description("Print the catalog of modulons and exit");
   app.add_option("--render-symbol", out.renderSymbol,
                  "Write an SVG picture of a .sym file to standard output");
 

@@ -48,7 +48,7 @@ JsonValue JsonValue::ofStrings(const std::vector<std::string>& values) {
 }
 
 JsonValue& JsonValue::add(std::string name, JsonValue value) {
-  members.emplace_back(std::move(name), std::move(value));
+  members.push_back({std::move(name), std::move(value)});
   return *this;
 }
 
@@ -403,9 +403,9 @@ void writeValue(const JsonValue& value, bool indented, size_t level, std::string
       for (size_t i = 0; i < value.members.size(); ++i) {
         if (i > 0) out += indented ? "," : ", ";
         newLine(level + 1);
-        writeString(value.members[i].first, out);
+        writeString(value.members[i].name, out);
         out += ": ";
-        writeValue(value.members[i].second, indented, level + 1, out);
+        writeValue(value.members[i].value, indented, level + 1, out);
       }
       if (!value.members.empty()) newLine(level);
       out += '}';

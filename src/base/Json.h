@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "base/Messages.h"
@@ -13,14 +12,16 @@ namespace plovix {
 
 enum class JsonKind { kNull, kBool, kNumber, kString, kArray, kObject };
 
+struct JsonMember;
+
 // One JSON value. Strings are byte strings: the reader turns \u escapes into UTF-8, the writer passes bytes
 // of 0x80 and above through as they are. A number keeps its literal text.
 struct JsonValue {
   JsonKind kind = JsonKind::kNull;
   bool boolean = false;
-  std::string text;                                        // a string's bytes or a number's literal
-  std::vector<JsonValue> items;                            // an array's values
-  std::vector<std::pair<std::string, JsonValue>> members;  // an object's members, in order
+  std::string text;                 // a string's bytes or a number's literal
+  std::vector<JsonValue> items;     // an array's values
+  std::vector<JsonMember> members;  // an object's members, in order
 
   static JsonValue ofBool(bool value);
   static JsonValue ofInteger(long long value);
@@ -38,6 +39,12 @@ struct JsonValue {
   const JsonValue* member(std::string_view name) const;
   // A number without fraction or exponent that fits a long long.
   bool integer(long long& out) const;
+};
+
+// One member of an object.
+struct JsonMember {
+  std::string name;
+  JsonValue value;
 };
 
 // The most values nested in one another that the reader takes.

@@ -1,7 +1,6 @@
 // Starting a plug-in with its DESCRIBE words and reading the settings it prints.
 #include "entry/DescribeModulon.h"
 
-#include <csignal>
 #include <cstring>
 
 #include "base/Format.h"
