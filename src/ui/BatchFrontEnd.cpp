@@ -88,7 +88,8 @@ std::string directoryHints(const std::string& designFile, const std::string& pag
 PageResult BatchFrontEnd::finishWithNext(WizardPageFrame& page, PageContext& context,
                                          const std::string& hint) {
   const size_t boxesBefore = boxes_.size();
-  if (!page.pressNext(context, std::nullopt)) page.pressCancel();
+  if (page.pressNext(context, std::nullopt)) return page.result;
+  page.pressCancel();
   if (!hint.empty() && boxes_.size() > boxesBefore) this->hint(hint);
   return page.result;
 }

@@ -50,8 +50,8 @@ class BatchFrontEnd : public FrontEnd {
   // A page shown again (the plug-in went back, or could not be started) would be filled the same way and
   // lead to the same place; it ends with Cancel instead, so that a batch run never loops.
   bool shownBefore(const WizardPageFrame& page);
-  // Presses Next; a page still open afterwards (a check failed and was reported) ends with Cancel. When the
-  // checks showed a box, `hint` (when not empty) follows it.
+  // Presses Next; a page still open afterwards (a check failed and was reported) ends with Cancel, and when
+  // its checks showed a box, `hint` (when not empty) follows it.
   PageResult finishWithNext(WizardPageFrame& page, PageContext& context, const std::string& hint);
   void show(std::string_view kind, const std::string& text, const std::string& answer = {});
 
