@@ -18,7 +18,7 @@ struct FrontEndOptions {
   // Started by the plovix command, not by a host of libvamlet.so: the console then ends the process on
   // Ctrl-C with status 130.
   bool startedByCommand = false;
-  bool force = false;    // batch: questions that replace a file no wizard generated are answered too
+  bool force = false;  // batch: questions that replace a file no wizard generated are answered too
 };
 
 // The options as the environment sets them.

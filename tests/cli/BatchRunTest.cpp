@@ -161,8 +161,8 @@ TEST(BatchRun, SubcommandsNeverOpenAWindow) {
   }
 }
 
-// Every bundled modulon's plug-in describes its settings through its catalog's DESCRIBE element; the text form
-// gives each setting a line of its own.
+// Every bundled modulon's plug-in describes its settings through its catalog's DESCRIBE element; the text
+// form gives each setting a line of its own.
 TEST(BatchRun, EveryBundledModulonDescribesItself) {
   const CommandResult list = runCommand(plovixProgram(), {"--list-modulons"});
   ASSERT_EQ(list.exitCode, 0);
