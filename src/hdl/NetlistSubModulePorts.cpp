@@ -1,5 +1,4 @@
 // The merged ports of the instantiated sub-modules, with the direction each is used in.
-#include <algorithm>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -22,6 +21,16 @@ std::unordered_set<std::string> bidirOutputNames(const CnxDescription& descripti
   return names;
 }
 
+// A stored bound changes only for a strictly larger width or a strictly smaller low index, and is then
+// stored as decimal text; otherwise its text stays as it is, so a symbolic bound survives a tie.
+void growTo(std::string& width, long long value) {
+  if (value > atoiText(width)) width = decimalText(value);
+}
+
+void shrinkTo(std::string& low, long long value) {
+  if (value < atoiText(low)) low = decimalText(value);
+}
+
 void mergeEnd(SubModulePort& record, const CnxConnectionEnd& e) {
   const std::string other = e.peerIsSource ? "OUT" : "IN";
   if (record.directionWord == other) {
@@ -29,11 +38,10 @@ void mergeEnd(SubModulePort& record, const CnxConnectionEnd& e) {
   } else if (record.directionWord != "INOUT") {
     record.directionWord = e.peerIsSource ? "IN" : "OUT";
   }
-  const long long top1 = atoiText(e.ownWidth1) + atoiText(e.ownLow1);
-  record.width1 = decimalText(std::max(atoiText(record.width1), top1));
-  record.low1 = decimalText(std::min(atoiText(record.low1), atoiText(e.ownLow1)));
-  record.width2 = decimalText(std::max(atoiText(record.width2), atoiText(e.ownWidth2)));
-  record.low2 = decimalText(std::min(atoiText(record.low2), atoiText(e.ownLow2)));
+  growTo(record.width1, atoiText(e.ownWidth1) + atoiText(e.ownLow1));
+  shrinkTo(record.low1, atoiText(e.ownLow1));
+  growTo(record.width2, atoiText(e.ownWidth2));
+  shrinkTo(record.low2, atoiText(e.ownLow2));
 }
 
 SubModulePort newRecord(const std::unordered_set<std::string>& bidirOutputs, const std::string& moduleName,

@@ -252,5 +252,21 @@ TEST_F(NetlistTest, SubModulePortsMergeDirectionsAndBounds) {
   EXPECT_EQ(d->low2, "0");
 }
 
+// A merge changes a stored bound only for a strictly larger width or a strictly smaller low index, so a
+// symbolic low index survives a tie with a number, and building again changes nothing.
+TEST_F(NetlistTest, SubModulePortBoundsKeepTheirTextOnATie) {
+  NetlistWriter& w = read(
+      "MODULE: pvx_reg\nMODULE: pvx_reg r2\nUSED_PORT: d 0 0 8 0 INPUT NODEFVAL\n"
+      "CONNECT: @data 0 0 8 BASE d 0 0 8 0\nCONNECT: r2@data 0 0 8 0 d 0 0 8 0\n"
+      "CONNECT: r2@data 0 0 4 BASE d 0 0 4 0\n");
+  w.buildSubModulePorts();
+  ASSERT_EQ(w.subModulePorts.size(), 1u);
+  EXPECT_EQ(w.subModulePorts[0].width2, "8");
+  EXPECT_EQ(w.subModulePorts[0].low2, "BASE");
+  w.buildSubModulePorts();
+  ASSERT_EQ(w.subModulePorts.size(), 1u);
+  EXPECT_EQ(w.subModulePorts[0].low2, "BASE");
+}
+
 }  // namespace
 }  // namespace plovix
