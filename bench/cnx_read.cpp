@@ -1,16 +1,14 @@
-// Reading 100,000-line CNX files: a mix of every statement kind, and one port fed bit by bit from the lowest
-// bit up (the filing order that moves every end of a port's list).
+// Reading CNX files of 100,000 and 1,000,000 lines: a mix of every statement kind, and one port fed bit by
+// bit from the lowest bit up (the filing order that moves every end of a port's list).
 #include <benchmark/benchmark.h>
 
 #include <string>
 
 #include "TempDir.h"
 #include "base/UserInterface.h"
-#include "cnx/CnxDescription.h"
+#include "cnx/CnxReader.h"
 
 namespace {
-
-constexpr int kLines = 100000;
 
 class SilentInterface : public plovix::UserInterface {
  public:
@@ -19,9 +17,9 @@ class SilentInterface : public plovix::UserInterface {
   std::string reports;
 };
 
-std::string mixedDescription() {
+std::string mixedDescription(int lines) {
   std::string text = "GENERATION: STANDARD\nVERSION: WM1.0\nMODULE: lpm_counter\n";
-  for (int i = 3; i < kLines; ++i) {
+  for (int i = 3; i < lines; ++i) {
     const std::string n = std::to_string(i);
     switch (i % 8) {
       case 0:
@@ -54,37 +52,40 @@ std::string mixedDescription() {
   return text;
 }
 
-std::string oneWideBus() {
+std::string oneWideBus(int lines) {
   std::string text = "GENERATION: STANDARD\nVERSION: WM1.0\nMODULE: lpm_counter\n";
-  for (int i = 3; i < kLines; ++i) {
+  for (int i = 3; i < lines; ++i) {
     text += "CONNECT: q 1 " + std::to_string(i) + " 0 0 s@d" + std::to_string(i) + " 1 0 0 0\n";
   }
   return text;
 }
 
-void readFile(benchmark::State& state, const std::string& text) {
+void readFile(benchmark::State& state, const std::string& text, int lines) {
   plovix::testing::TempDir temp;
   temp.write("bench.cnx", text);
   SilentInterface ui;
   for (auto _ : state) {
-    plovix::CnxDescription description(temp.path("bench.cnx"));
-    const bool ok = description.readDescription(ui);
+    plovix::CnxReader reader(ui, temp.path("bench.cnx"));
+    const bool ok = reader.read();
     benchmark::DoNotOptimize(ok);
     if (!ok) state.SkipWithError(("the generated file does not read: " + ui.reports).c_str());
   }
   state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(text.size()));
   state.counters["lines"] =
-      benchmark::Counter(static_cast<double>(state.iterations()) * kLines, benchmark::Counter::kIsRate);
+      benchmark::Counter(static_cast<double>(state.iterations()) * lines, benchmark::Counter::kIsRate);
 }
 
+// The argument is the number of lines.
 void BM_ReadMixedCnx(benchmark::State& state) {
-  readFile(state, mixedDescription());
+  const int lines = static_cast<int>(state.range(0));
+  readFile(state, mixedDescription(lines), lines);
 }
-BENCHMARK(BM_ReadMixedCnx)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ReadMixedCnx)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);
 
 void BM_ReadOnePortBitByBit(benchmark::State& state) {
-  readFile(state, oneWideBus());
+  const int lines = static_cast<int>(state.range(0));
+  readFile(state, oneWideBus(lines), lines);
 }
-BENCHMARK(BM_ReadOnePortBitByBit)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ReadOnePortBitByBit)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -9,7 +9,8 @@
 #include <string_view>
 
 #include "base/UserInterface.h"
-#include "cnx/CnxDescription.h"
+#include "cnx/CnxReader.h"
+#include "cnx/RetrievalInfo.h"
 
 namespace {
 
@@ -54,16 +55,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
 
   const std::string cnxPath = scratch.path("v.cnx");
   writeBytes(cnxPath, bytes);
-  plovix::CnxDescription description(cnxPath);
-  description.readDescription(ui);
-  std::string block;
-  description.writeRetrievalInfo(ui, ".vhd", block);
-  description.stripGenerationLine(ui, cnxPath);
+  plovix::CnxReader reader(ui, cnxPath);
+  reader.read();
+  // The retrieval info always opens with its banner, whatever was read.
+  if (plovix::retrievalInfoText(reader.description(), "--").rfind("-- ====", 0) != 0) abort();
+  plovix::stripGenerationLine(ui, cnxPath);
 
   // As a variation file; an odd first byte puts a signature line in front so that the header is examined.
   const std::string signature = size > 0 && (data[0] & 1) != 0 ? "-- modulon wizard: %m%\n" : "";
   writeBytes(scratch.path("w.vhd"), signature + std::string(bytes));
-  plovix::CnxDescription edit;
-  edit.extractRetrievalInfo(ui, scratch.path("w.vhd"));
+  plovix::extractRetrievalInfo(ui, scratch.path("w.vhd"));
   return 0;
 }

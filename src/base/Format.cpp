@@ -31,6 +31,28 @@ std::string formatText(const char* format, ...) {
   return result;
 }
 
+std::string fillTemplate(std::string_view format, std::initializer_list<std::string_view> texts) {
+  std::vector<std::string_view> parts(texts);
+  size_t size = format.size();
+  for (std::string_view& text : parts) {
+    text = text.substr(0, text.find('\0'));
+    size += text.size();
+  }
+  std::string result;
+  result.reserve(size);
+  auto next = parts.begin();
+  for (size_t i = 0; i < format.size(); ++i) {
+    if (format[i] != '%' || i + 1 == format.size()) {
+      result += format[i];
+    } else if (format[++i] == 's') {
+      if (next != parts.end()) result += *next++;
+    } else {
+      result += format[i];
+    }
+  }
+  return result;
+}
+
 std::string formatInt(long long value) {
   return formatText("%lld", value);
 }

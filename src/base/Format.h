@@ -1,12 +1,19 @@
 // The one printf-style formatting helper that every generated text and message is built with.
 #pragma once
 
+#include <initializer_list>
 #include <string>
+#include <string_view>
 
 namespace plovix {
 
 // Formats like printf and returns the result as a byte string.
 std::string formatText(const char* format, ...) __attribute__((format(printf, 1, 2)));
+
+// Fills a template whose only conversions are "%s" (and "%%" for a percent sign) with `texts`, in order, in
+// one pass: for templates around sections of megabytes, which formatText would measure and copy twice. As
+// with formatText, a text ends at its first NUL.
+std::string fillTemplate(std::string_view format, std::initializer_list<std::string_view> texts);
 
 // "%d" of an integer and "%c" of a character.
 std::string formatInt(long long value);

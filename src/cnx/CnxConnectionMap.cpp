@@ -1,71 +1,151 @@
-// Implementation of the filing of connection ends.
+// Implementation of the connection map: lookups, and the builder that puts the filed ends in walking order.
 #include "cnx/CnxConnectionMap.h"
 
 #include <algorithm>
-
-#include "base/TextHelpers.h"
+#include <array>
+#include <utility>
 
 namespace plovix {
 
-bool standsBefore(const CnxConnectionEnd& a, const CnxConnectionEnd& b) {
-  const long long aLow1 = atoiText(a.ownLow1);
-  const long long bLow1 = atoiText(b.ownLow1);
-  if (aLow1 != bLow1) return aLow1 > bLow1;
-  return atoiText(a.ownLow2) > atoiText(b.ownLow2);
-}
-
-CnxEndList& connectionEndList(CnxConnectionMap& map, const std::string& instance, const std::string& port) {
-  CnxPortMap* ports = map.find(instance);
-  if (ports == nullptr) ports = &map.insert(instance, CnxPortMap());
-  CnxEndList* ends = ports->find(port);
-  if (ends == nullptr) ends = &ports->insert(port, CnxEndList());
-  return *ends;
-}
-
-void CnxDescription::addConnectionEnd(const std::string& instance, const std::string& port,
-                                      CnxConnectionEnd end) {
-  CnxEndList& ends = connectionEndList(connectionMap, instance, port);
-  // The list is always in order, so the place before the first entry that the new end stands before is found
-  // by bisection.
-  const auto place = std::upper_bound(ends.begin(), ends.end(), end, standsBefore);
-  ends.insert(place, std::move(end));
-}
-
-void CnxEndFiler::file(const std::string& instance, const std::string& port, CnxConnectionEnd end) {
-  CnxEndList& ends = connectionEndList(map_, instance, port);
-  if (!ends.empty() && standsBefore(end, ends.back()) && marked_.insert(&ends).second)
-    unordered_.push_back(&ends);
-  ends.push_back(std::move(end));
-}
-
 namespace {
 
-// Sorts a list by its bit positions, reading each end's position once and moving each end once.
-void sortByBitPosition(CnxEndList& ends) {
-  struct Position {
-    long long low1, low2;
-    size_t index;
-  };
-  std::vector<Position> positions;
-  positions.reserve(ends.size());
-  for (size_t i = 0; i < ends.size(); ++i) {
-    positions.push_back({atoiText(ends[i].ownLow1), atoiText(ends[i].ownLow2), i});
+constexpr uint32_t kBuckets = 17;
+
+// The bit position of an end, the key of its place in a port's list.
+struct BitPosition {
+  long long rowsLow, bitsLow;
+  friend bool operator<(const BitPosition& a, const BitPosition& b) {
+    return a.rowsLow != b.rowsLow ? a.rowsLow < b.rowsLow : a.bitsLow < b.bitsLow;
   }
-  std::stable_sort(positions.begin(), positions.end(), [](const Position& a, const Position& b) {
-    return a.low1 != b.low1 ? a.low1 > b.low1 : a.low2 > b.low2;
-  });
-  CnxEndList sorted;
+};
+
+BitPosition positionOf(const CnxConnectionEnd& end) {
+  return {end.own.rows.low.value(), end.own.bits.low.value()};
+}
+
+// Puts the ends of one port in descending bit position, equal positions in file order. Ends filed from the
+// highest bit down are already in order; ends filed from the lowest bit up only need reversing.
+void orderByBitPosition(std::span<CnxConnectionEnd> ends) {
+  if (ends.size() < 2) return;
+  std::vector<BitPosition> positions;
+  positions.reserve(ends.size());
+  for (const CnxConnectionEnd& end : ends) positions.push_back(positionOf(end));
+  bool descending = true, ascending = true;
+  for (size_t i = 1; i < positions.size(); ++i) {
+    if (positions[i - 1] < positions[i]) descending = false;
+    if (!(positions[i - 1] < positions[i])) ascending = false;
+  }
+  if (descending) return;
+  if (ascending) {
+    std::reverse(ends.begin(), ends.end());
+    return;
+  }
+  std::vector<size_t> order(ends.size());
+  for (size_t i = 0; i < order.size(); ++i) order[i] = i;
+  std::stable_sort(order.begin(), order.end(),
+                   [&positions](size_t a, size_t b) { return positions[b] < positions[a]; });
+  std::vector<CnxConnectionEnd> sorted;
   sorted.reserve(ends.size());
-  for (const Position& position : positions) sorted.push_back(std::move(ends[position.index]));
-  ends = std::move(sorted);
+  for (size_t i : order) sorted.push_back(ends[i]);
+  std::copy(sorted.begin(), sorted.end(), ends.begin());
+}
+
+// Orders ids (given oldest first) by the bucket of their key, the newest first within a bucket.
+template <class BucketOf>
+void orderByBucket(std::span<uint32_t> ids, BucketOf bucketOf) {
+  std::array<uint32_t, kBuckets + 1> start{};
+  for (uint32_t id : ids) ++start[bucketOf(id) + 1];
+  for (uint32_t b = 0; b < kBuckets; ++b) start[b + 1] += start[b];
+  std::vector<uint32_t> ordered(ids.size());
+  for (auto it = ids.rbegin(); it != ids.rend(); ++it) ordered[start[bucketOf(*it)]++] = *it;
+  std::copy(ordered.begin(), ordered.end(), ids.begin());
 }
 
 }  // namespace
 
-void CnxEndFiler::finish() {
-  for (CnxEndList* ends : unordered_) sortByBitPosition(*ends);
-  unordered_.clear();
-  marked_.clear();
+uint32_t CnxConnectionMap::bucketOf(std::string_view key) {
+  uint32_t h = 0;
+  for (char c : key) h = h * 33u + static_cast<uint32_t>(static_cast<int32_t>(static_cast<int8_t>(c)));
+  return h % kBuckets;
+}
+
+const CnxConnectionMap::Instance* CnxConnectionMap::findInstance(Name name) const {
+  const auto it = instanceIndex_.find(name);
+  return it == instanceIndex_.end() ? nullptr : &instances_[it->second];
+}
+
+std::span<const CnxConnectionEnd> CnxConnectionMap::find(std::string_view instance,
+                                                         std::string_view port) const {
+  for (const Instance& i : instances_) {
+    if (i.name != instance) continue;
+    for (const Port& p : portsOf(i)) {
+      if (p.name == port) return endsOf(p);
+    }
+  }
+  return {};
+}
+
+void CnxConnectionMapBuilder::file(Name instance, Name port, const CnxConnectionEnd& end) {
+  const auto [instanceIt, newInstance] =
+      instanceOf_.try_emplace(instance, static_cast<uint32_t>(instanceNames_.size()));
+  if (newInstance) instanceNames_.push_back(instance);
+  const auto [portIt, newPort] =
+      portOf_.try_emplace(PortKey{instanceIt->second, port}, static_cast<uint32_t>(ports_.size()));
+  if (newPort) ports_.push_back(FiledPort{instanceIt->second, port});
+  ++ports_[portIt->second].endCount;
+  ends_.push_back(end);
+  portOfEnd_.push_back(portIt->second);
+}
+
+CnxConnectionMap CnxConnectionMapBuilder::finish() {
+  CnxConnectionMap map;
+  portOf_ = {};
+
+  // Instances by bucket, the newest first within a bucket.
+  std::vector<uint32_t> instanceOrder(instanceNames_.size());
+  for (uint32_t i = 0; i < instanceOrder.size(); ++i) instanceOrder[i] = i;
+  orderByBucket(instanceOrder,
+                [this](uint32_t i) { return CnxConnectionMap::bucketOf(instanceNames_[i].view()); });
+
+  // The ports of each instance, in the order first filed.
+  std::vector<uint32_t> portStart(instanceNames_.size() + 1, 0);
+  for (const FiledPort& port : ports_) ++portStart[port.instance + 1];
+  for (size_t i = 1; i < portStart.size(); ++i) portStart[i] += portStart[i - 1];
+  std::vector<uint32_t> portIds(ports_.size());
+  {
+    std::vector<uint32_t> next(portStart.begin(), portStart.end() - 1);
+    for (uint32_t p = 0; p < ports_.size(); ++p) portIds[next[ports_[p].instance]++] = p;
+  }
+  std::vector<uint8_t> portBucket(ports_.size());
+  for (uint32_t p = 0; p < ports_.size(); ++p)
+    portBucket[p] = static_cast<uint8_t>(CnxConnectionMap::bucketOf(ports_[p].name.view()));
+
+  // Walking order of instances, then of each instance's ports; every port's ends get their place.
+  map.instances_.reserve(instanceOrder.size());
+  map.ports_.reserve(ports_.size());
+  std::vector<uint32_t> endPlace(ports_.size());
+  uint32_t nextEnd = 0;
+  for (uint32_t i : instanceOrder) {
+    std::span<uint32_t> ids(portIds.data() + portStart[i], portStart[i + 1] - portStart[i]);
+    orderByBucket(ids, [&portBucket](uint32_t p) { return portBucket[p]; });
+    map.instanceIndex_.emplace(instanceNames_[i], static_cast<uint32_t>(map.instances_.size()));
+    map.instances_.push_back(
+        {instanceNames_[i], static_cast<uint32_t>(map.ports_.size()), static_cast<uint32_t>(ids.size())});
+    for (uint32_t p : ids) {
+      map.ports_.push_back({ports_[p].name, nextEnd, ports_[p].endCount});
+      endPlace[p] = nextEnd;
+      nextEnd += ports_[p].endCount;
+    }
+  }
+
+  // The ends: file order within each port, then bit order.
+  map.ends_.resize(ends_.size());
+  for (size_t e = 0; e < ends_.size(); ++e) map.ends_[endPlace[portOfEnd_[e]]++] = ends_[e];
+  for (const CnxConnectionMap::Port& port : map.ports_)
+    orderByBitPosition(std::span<CnxConnectionEnd>(map.ends_).subspan(port.firstEnd, port.endCount));
+
+  *this = CnxConnectionMapBuilder();
+  return map;
 }
 
 }  // namespace plovix

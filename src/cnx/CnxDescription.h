@@ -1,117 +1,132 @@
-// The CNX description of a variation: its records, the connection map, the reading state, and the paths of
-// the CNX file and its error log.
+// The CNX description of a variation: what a plug-in's CNX file says, as plain records. CnxReader fills it;
+// the netlist builder, the writers and the symbol builder only read it.
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "base/UserInterface.h"
-#include "cnx/BucketMap.h"
+#include "cnx/Bounds.h"
+#include "cnx/CnxConnectionMap.h"
 #include "cnx/SymbolElements.h"
+#include "cnx/TextPool.h"
 
 namespace plovix {
 
+// What the description asks to generate (the GENERATION: line).
+enum class GenerationMode : uint8_t {
+  kStandard,    // "STANDARD": design files and symbol
+  kSymbolOnly,  // "SYMBOL_ONLY": the symbol alone
+  kInvalid,     // any other word
+};
+
+// The direction of a variation port (the port type of a USED_PORT: line).
+enum class PortDirection : uint8_t {
+  kInput,   // "INPUT"
+  kOutput,  // "OUTPUT"
+  kBidir,   // "BIDIR"
+};
+
+// The keyword of a direction as the description writes it.
+std::string_view directionKeyword(PortDirection direction);
+
+// The type of a parameter, constant or private value.
+enum class ValueType : uint8_t {
+  kNumeric,  // "NUMERIC": written as it stands
+  kString,   // "STRING": written in quotes
+};
+
+// The value an unconnected input takes.
+enum class DefaultKind : uint8_t {
+  kNone,    // "NODEFVAL": no default
+  kGround,  // "GND"
+  kPower,   // "VCC"
+  kOther,   // any other text, written as it stands
+};
+
+// The text that marks the absence of a default value, also among parameter values.
+inline constexpr std::string_view kNoDefaultValue = "NODEFVAL";
+
+struct PortDefault {
+  DefaultKind kind = DefaultKind::kNone;
+  Name text;  // as written ("GND", "VCC", "5", ...); "NODEFVAL" for kNone
+};
+
+inline constexpr std::string_view kNoDefaultLibrary = "NO_DEFAULT_LIB";
+
 struct CnxLibrary {
-  std::string name;  // "NO_DEFAULT_LIB" is special
-  std::string use;
+  Name name;  // kNoDefaultLibrary drops the default VHDL libraries
+  Name use;   // the item named in the use clause; may be empty only beside kNoDefaultLibrary
 };
 
 struct CnxModule {
-  std::string moduleName;
-  std::string instanceName;  // givenInstanceName when not empty, else mainModuleName when the line was read
-  std::string givenInstanceName;
+  Name moduleName;         // the library function instantiated
+  Name instanceName;       // givenInstanceName when not empty, else mainModuleName when the line was read
+  Name givenInstanceName;  // as written, possibly empty
 };
 
+// A PARAMETER: line; CONSTANT: lines have the same fields. An empty target belongs to every instance.
 struct CnxParameter {
-  std::string name, type, value, target;
+  Name name;
+  ValueType type = ValueType::kNumeric;
+  Name value;
+  Name target;
 };
+using CnxConstant = CnxParameter;
 
-struct CnxConstant {
-  std::string name, type, value, target;
-};
-
+// A PRIVATE: line: plug-in state, only carried back in the retrieval info.
 struct CnxPrivate {
-  std::string name, type, value;
+  Name name;
+  ValueType type = ValueType::kNumeric;
+  Name value;
 };
 
+// A USED_PORT: line.
 struct CnxUsedPort {
-  std::string name;
-  std::string width1 = "0", low1 = "0", width2 = "0", low2 = "0";
-  std::string direction;     // "INPUT", "OUTPUT" or "BIDIR"
-  std::string defaultValue;  // "NODEFVAL" means none
-  std::string tag;
+  Name name;  // without a leading "!" and without everything up to the first "@"
+  Shape shape;
+  PortDirection direction = PortDirection::kInput;
+  PortDefault defaultValue;
+  Name tag;  // an optional further word; the automatic symbol shows it as the pin's alternative text
 };
 
-struct CnxConnectionEnd {
-  std::string peerInstance, peerPort;
-  std::string peerWidth1 = "0", peerLow1 = "0", peerWidth2 = "0", peerLow2 = "0";
-  std::string ownWidth1 = "0", ownLow1 = "0", ownWidth2 = "0", ownLow2 = "0";
-  bool peerIsSource = false;
-  bool peerInverted = false;
-  bool peerIsConstant = false;
-};
+inline constexpr std::string_view kVersionUnknown = "CNX_VERSION_UNKNOWN";
 
-// Ends filed under one port, in the order the writers join them (descending bit position).
-using CnxEndList = std::vector<CnxConnectionEnd>;
-// Port name to its ends.
-using CnxPortMap = BucketMap<CnxEndList>;
-// Instance name to its ports.
-using CnxConnectionMap = BucketMap<CnxPortMap>;
-
-inline constexpr const char* kVersionUnknown = "CNX_VERSION_UNKNOWN";
-
-class CnxDescription {
- public:
-  CnxDescription();
-  explicit CnxDescription(const std::string& cnxPath);
-
-  void reset();
-  void setCnxPath(const std::string& path);
-  void deleteWorkFiles();
-
-  // Reads cnxPath into the description, logging faults to the error log; reports error 33 on failure.
-  bool readDescription(UserInterface& ui);
-
-  // Appends the retrieval-info block for a design file of `outputExtension` to `out`.
-  bool writeRetrievalInfo(UserInterface& ui, const std::string& outputExtension, std::string& out);
-
-  // Edit mode: rebuilds the CNX file beside a variation file from its header and retrieval info.
-  bool extractRetrievalInfo(UserInterface& ui, const std::string& variationPath);
-
-  // Edit mode: removes a valid generation line from the start of a CNX file.
-  bool stripGenerationLine(UserInterface& ui, const std::string& cnxFilePath);
-
-  // Writes one entry (or, the first time, the banner) to the error log; always false.
-  bool logError(UserInterface& ui, const std::string& message);
-
-  // Files one end of a connection under (instance, port).
-  void addConnectionEnd(const std::string& instance, const std::string& port, CnxConnectionEnd end);
-
-  bool defaultSymbolBox = true;
-  bool errorLogFresh = true;
-  bool uses2D = false;
+struct CnxDescription {
+  // The CNX file the description was read from.
   std::string cnxPath;
-  std::string errorLogPath;
-  std::string version = kVersionUnknown;
-  std::string commentLeader;
-  std::string mainModuleName;
-  std::string generationMode = "STANDARD";
-  std::string token;
-  std::string lineRest;
-  int32_t lineCounter = 1;
-  bool emptyQuoted = false;
+  GenerationMode generationMode = GenerationMode::kStandard;
+  // "WM1.0", "WM2.0" or kVersionUnknown.
+  std::string version = std::string(kVersionUnknown);
+  // Some port or connection end has two present ranges.
+  bool uses2D = false;
+  // No SYMBOL: BOX line was read: the symbol is generated from the ports instead of drawn.
+  bool defaultSymbolBox = true;
+  // The module of the first MODULE: line; "@" references name its instance.
+  Name mainModuleName;
+
   std::vector<CnxLibrary> libraries;
   std::vector<CnxModule> modules;
   std::vector<CnxParameter> parameters;
   std::vector<CnxConstant> constants;
   std::vector<CnxPrivate> privates;
-  std::vector<CnxUsedPort> inputPorts;
-  std::vector<CnxUsedPort> outputPorts;
-  std::vector<CnxUsedPort> mainModulePorts;
-  CnxConnectionMap connectionMap;
-  std::vector<std::string> moduleNames;
+  std::vector<CnxUsedPort> inputPorts;       // USED_PORT: INPUT lines
+  std::vector<CnxUsedPort> outputPorts;      // USED_PORT: OUTPUT and BIDIR lines
+  std::vector<CnxUsedPort> mainModulePorts;  // USED_PORT: lines whose port starts with "@", any direction
+  CnxConnectionMap connectionMap;            // CONNECT: lines
+  std::vector<Name> moduleNames;             // the distinct module names of `modules`, in order
   std::vector<SymbolElement> symbolElements;
+
+  // The lines the retrieval info carries back (LIBRARY:, PARAMETER:, CONSTANT:, PRIVATE:, USED_PORT: and
+  // CONNECT: lines, each trimmed and ended with "\n"), in file order, whether or not the reader accepted
+  // them.
+  std::string retrievedStatements;
+
+  // Every Name of the description points into this pool, which the description owns: a description is
+  // moved, not copied, and whatever keeps its Names (a netlist) lives no longer than it.
+  std::unique_ptr<TextPool> names = std::make_unique<TextPool>();
 };
 
 }  // namespace plovix

@@ -1,8 +1,6 @@
 // Implementation of the CNX line reader and tokenizer.
 #include "cnx/CnxLineReader.h"
 
-#include <cstdint>
-
 #include "base/TextHelpers.h"
 
 namespace plovix {
@@ -12,15 +10,22 @@ namespace {
 constexpr std::string_view kDelimiters = " \t;";
 
 // The position of the first character at or after `from` that is not in `set`, or the end of `text`.
-size_t skipAll(const std::string& text, std::string_view set, size_t from) {
+size_t skipAll(std::string_view text, std::string_view set, size_t from) {
   const size_t pos = text.find_first_not_of(set, from);
-  return pos == std::string::npos ? text.size() : pos;
+  return pos == std::string_view::npos ? text.size() : pos;
 }
 
 // The position of the first character at or after `from` that is in `set`, or the end of `text`.
-size_t findAny(const std::string& text, std::string_view set, size_t from) {
+size_t findAny(std::string_view text, std::string_view set, size_t from) {
   const size_t pos = text.find_first_of(set, from);
-  return pos == std::string::npos ? text.size() : pos;
+  return pos == std::string_view::npos ? text.size() : pos;
+}
+
+std::string_view trimmedView(std::string_view text) {
+  const size_t first = text.find_first_not_of(kBlankCharacters);
+  if (first == std::string_view::npos) return {};
+  const size_t last = text.find_last_not_of(kBlankCharacters);
+  return text.substr(first, last - first + 1);
 }
 
 }  // namespace
@@ -34,8 +39,16 @@ bool TextLineCursor::next(std::string_view& line) {
   return true;
 }
 
-void takeCnxToken(std::string& rest, std::string& token, bool& emptyQuoted) {
-  token.clear();
+bool CnxLine::readFrom(TextLineCursor& lines) {
+  std::string_view line;
+  if (!lines.next(line)) return false;
+  rest = trimmedView(line);
+  if (counter < INT32_MAX) ++counter;
+  return true;
+}
+
+bool CnxLine::take() {
+  token = {};
   emptyQuoted = false;
   const size_t start = skipAll(rest, kDelimiters, 0);
   size_t end = start;
@@ -45,41 +58,30 @@ void takeCnxToken(std::string& rest, std::string& token, bool& emptyQuoted) {
   } else if (start < rest.size() && rest[start] == '"') {
     const size_t textStart = skipAll(rest, "\"", start);
     const size_t textEnd = findAny(rest, "\"", textStart);
-    token.assign(rest, textStart, textEnd - textStart);
+    token = rest.substr(textStart, textEnd - textStart);
     end = skipAll(rest, "\"", textEnd);
   } else {
     end = findAny(rest, kDelimiters, start);
-    token.assign(rest, start, end - start);
+    token = rest.substr(start, end - start);
   }
-  rest.erase(0, skipAll(rest, kDelimiters, end));
+  rest.remove_prefix(skipAll(rest, kDelimiters, end));
+  return !token.empty();
 }
 
-bool readCnxLine(CnxDescription& description, TextLineCursor& lines) {
-  std::string_view line;
-  if (!lines.next(line)) return false;
-  description.lineRest = trimText(line);
-  if (description.lineCounter < INT32_MAX) ++description.lineCounter;
-  return true;
-}
-
-bool takeCnxToken(CnxDescription& description) {
-  takeCnxToken(description.lineRest, description.token, description.emptyQuoted);
-  return !description.token.empty();
-}
-
-std::string takeHeaderValue(CnxDescription& description, std::string_view keyword,
-                            std::initializer_list<std::string_view> accepted, std::string_view otherwise) {
-  takeCnxToken(description);
-  if (description.token != keyword) return std::string(otherwise);
-  takeCnxToken(description);
+std::string_view takeHeaderValue(CnxLine& line, std::string_view keyword,
+                                 std::initializer_list<std::string_view> accepted,
+                                 std::string_view otherwise) {
+  line.take();
+  if (line.token != keyword) return otherwise;
+  line.take();
   for (std::string_view value : accepted) {
-    if (description.token == value) return description.token;
+    if (line.token == value) return value;
   }
-  return std::string(otherwise);
+  return otherwise;
 }
 
-std::string takeGenerationMode(CnxDescription& description) {
-  return takeHeaderValue(description, "GENERATION:", {"STANDARD", "SYMBOL_ONLY"}, "INVALID");
+std::string_view takeGenerationWord(CnxLine& line) {
+  return takeHeaderValue(line, "GENERATION:", {"STANDARD", "SYMBOL_ONLY"}, "INVALID");
 }
 
 }  // namespace plovix

@@ -1,12 +1,10 @@
-// The CNX line reader: walks the lines of a file's text, puts each trimmed line into the description's
-// reading state and cuts it into tokens (blank, tab and semicolon delimit; double quotes group).
+// The CNX line reader: walks the lines of a file's text and cuts a trimmed line into tokens (blank, tab and
+// semicolon delimit; double quotes group).
 #pragma once
 
+#include <cstdint>
 #include <initializer_list>
-#include <string>
 #include <string_view>
-
-#include "cnx/CnxDescription.h"
 
 namespace plovix {
 
@@ -23,23 +21,29 @@ class TextLineCursor {
   size_t pos_ = 0;
 };
 
-// Takes the next token from `rest`: skips the delimiters before it, reads it (quoted or not) and skips the
-// delimiters after it. `emptyQuoted` tells the empty quoted token ("") from an absent one; both leave `token`
-// empty.
-void takeCnxToken(std::string& rest, std::string& token, bool& emptyQuoted);
+// The line being read and the token last taken from it: what the error log reports at a fault.
+struct CnxLine {
+  std::string_view rest;     // the unread rest of the trimmed line
+  std::string_view token;    // the token last taken
+  bool emptyQuoted = false;  // the token last taken was the empty quoted token ("")
+  int32_t counter = 1;       // 1 before the first line; counts every line read
 
-// Reads the next line into `lineRest` (trimmed) and counts it in `lineCounter`; false at the end of the text.
-bool readCnxLine(CnxDescription& description, TextLineCursor& lines);
+  // Reads the next line of `lines` into `rest` (trimmed) and counts it; false at the end of the text.
+  bool readFrom(TextLineCursor& lines);
 
-// Takes the next token of `lineRest` into `token` (and `emptyQuoted`); true when there was one.
-bool takeCnxToken(CnxDescription& description);
+  // Takes the next token of `rest`: skips the delimiters before it, reads it (quoted or not) and skips the
+  // delimiters after it. True when there was one; the empty quoted token counts as none but sets
+  // `emptyQuoted`.
+  bool take();
+};
 
-// Reads a header line from `lineRest`: when its first token is `keyword`, the token after it if that is one
+// Reads a header line from `line.rest`: when its first token is `keyword`, the token after it if that is one
 // of `accepted`; otherwise `otherwise`. Further tokens are left unread.
-std::string takeHeaderValue(CnxDescription& description, std::string_view keyword,
-                            std::initializer_list<std::string_view> accepted, std::string_view otherwise);
+std::string_view takeHeaderValue(CnxLine& line, std::string_view keyword,
+                                 std::initializer_list<std::string_view> accepted,
+                                 std::string_view otherwise);
 
-// The generation mode of the line in `lineRest`: "STANDARD", "SYMBOL_ONLY" or "INVALID".
-std::string takeGenerationMode(CnxDescription& description);
+// The generation-mode word of the line in `line.rest`: "STANDARD", "SYMBOL_ONLY" or "INVALID".
+std::string_view takeGenerationWord(CnxLine& line);
 
 }  // namespace plovix

@@ -1,11 +1,10 @@
 // Implementation of the operand classes of CNX statement lines.
+#include "base/Messages.h"
 #include "cnx/CnxOperands.h"
 
 #include <limits>
 
-#include "base/Messages.h"
 #include "base/TextHelpers.h"
-#include "cnx/CnxLineReader.h"
 
 namespace plovix {
 
@@ -24,56 +23,60 @@ int32_t cnxNumberValue(std::string_view text) {
   return static_cast<int32_t>(value);
 }
 
-bool CnxOperands::take() {
-  return takeCnxToken(description_);
-}
-
-bool CnxOperands::fail(Msg message) {
-  return description_.logError(ui_, std::string(errorText(message)));
-}
-
-bool CnxOperands::identifier(std::string& out) {
+bool CnxOperands::identifier(std::string_view& out) {
   if (!take()) return fail(Msg::kCnxNoIdentifier);
   if (!isLetter(token().front())) return fail(Msg::kCnxIdentifierStart);
   out = token();
   return true;
 }
 
-bool CnxOperands::optionalIdentifier(std::string& out) {
+bool CnxOperands::optionalIdentifier(std::string_view& out) {
   if (!take()) return true;
   if (!isLetter(token().front())) return fail(Msg::kCnxIdentifierStart);
   out = token();
   return true;
 }
 
-bool CnxOperands::portName(std::string& out) {
+bool CnxOperands::portName(std::string_view& out) {
   if (!take()) return fail(Msg::kCnxNoIdentifier);
   out = token();
   return true;
 }
 
-bool CnxOperands::type(std::string& out) {
+bool CnxOperands::type(ValueType& out) {
   take();
-  if (token() != "NUMERIC" && token() != "STRING") return fail(Msg::kCnxNoType);
-  out = token();
+  if (token() == "NUMERIC") {
+    out = ValueType::kNumeric;
+  } else if (token() == "STRING") {
+    out = ValueType::kString;
+  } else {
+    return fail(Msg::kCnxNoType);
+  }
   return true;
 }
 
-bool CnxOperands::value(std::string& out) {
+bool CnxOperands::value(std::string_view& out) {
   if (!take()) return fail(Msg::kCnxNoValue);
   out = token();
   return true;
 }
 
-void CnxOperands::word(std::string& out) {
+std::string_view CnxOperands::word() {
   take();
-  out = token();
+  return token();
 }
 
-bool CnxOperands::portType(std::string& out) {
+bool CnxOperands::portType(PortDirection& out) {
   take();
-  if (token() != "INPUT" && token() != "OUTPUT" && token() != "BIDIR") return fail(Msg::kCnxNoPortType);
-  out = token();
+  if (token() == "INPUT") {
+    out = PortDirection::kInput;
+  } else if (token() == "OUTPUT") {
+    out = PortDirection::kOutput;
+  } else if (token() == "BIDIR") {
+    out = PortDirection::kBidir;
+  } else {
+    return fail(Msg::kCnxNoPortType);
+  }
   return true;
 }
 
@@ -88,11 +91,11 @@ bool CnxOperands::number(int32_t& out) {
   return true;
 }
 
-bool CnxOperands::keyword(std::string& out, std::initializer_list<std::string_view> allowed, bool optional,
-                          Msg message) {
+bool CnxOperands::keyword(std::string_view& out, std::initializer_list<std::string_view> allowed,
+                          bool optional, Msg message) {
   if (!take()) {
     if (!optional) return fail(message);
-    out.clear();
+    out = {};
     return true;
   }
   for (std::string_view candidate : allowed) {

@@ -3,56 +3,55 @@
 
 #include <cstdint>
 #include <initializer_list>
-#include <string>
 #include <string_view>
 
 #include "base/Messages.h"
-#include "base/UserInterface.h"
 #include "cnx/CnxDescription.h"
+#include "cnx/CnxLineReader.h"
+#include "cnx/ErrorLog.h"
 
 namespace plovix {
 
-// Reads the operands of the line in the description's `lineRest`. Every check returns false after logging
-// its message (the line is then dropped); the checks that cannot fail return nothing.
+// Reads the operands of the current line. Every check returns false after logging its message (the line is
+// then dropped); the checks that cannot fail return nothing. Taken texts are views of the line.
 class CnxOperands {
  public:
-  CnxOperands(CnxDescription& description, UserInterface& ui) : description_(description), ui_(ui) {}
-
-  CnxDescription& description() { return description_; }
+  CnxOperands(CnxLine& line, CnxErrorLog& log) : line_(line), log_(log) {}
 
   // Takes the next token; true when there was one (the empty quoted token counts as none).
-  bool take();
-  const std::string& token() const { return description_.token; }
-  bool emptyQuoted() const { return description_.emptyQuoted; }
+  bool take() { return line_.take(); }
+  std::string_view token() const { return line_.token; }
+  bool emptyQuoted() const { return line_.emptyQuoted; }
 
   // Logs `message` against the current line; always false.
-  bool fail(Msg message);
+  bool fail(Msg message) { return log_.add(line_.counter, line_.rest, errorText(message)); }
 
   // Not empty, first character a letter.
-  bool identifier(std::string& out);
+  bool identifier(std::string_view& out);
   // Absent, or an identifier.
-  bool optionalIdentifier(std::string& out);
+  bool optionalIdentifier(std::string_view& out);
   // Not empty.
-  bool portName(std::string& out);
+  bool portName(std::string_view& out);
   // "NUMERIC" or "STRING".
-  bool type(std::string& out);
+  bool type(ValueType& out);
   // Not empty.
-  bool value(std::string& out);
+  bool value(std::string_view& out);
   // Any token, possibly absent.
-  void word(std::string& out);
+  std::string_view word();
   // "INPUT", "OUTPUT" or "BIDIR".
-  bool portType(std::string& out);
+  bool portType(PortDirection& out);
   // No further token.
   bool endOfLine();
 
   // An optional "-" and decimal digits (a lone "-" is 0), stored as a 32-bit integer.
   bool number(int32_t& out);
   // One of `allowed`; when `optional`, also absent (then `out` is empty).
-  bool keyword(std::string& out, std::initializer_list<std::string_view> allowed, bool optional, Msg message);
+  bool keyword(std::string_view& out, std::initializer_list<std::string_view> allowed, bool optional,
+               Msg message);
 
  private:
-  CnxDescription& description_;
-  UserInterface& ui_;
+  CnxLine& line_;
+  CnxErrorLog& log_;
 };
 
 // The value of a number text as the C library's conversion reads it, limited to the 32-bit range.

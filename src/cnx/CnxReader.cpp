@@ -1,66 +1,115 @@
-// Reading a CNX file into the description: the generation and version lines, then the body statements.
+// Reading a CNX file into a description: the generation and version lines, then the body statements.
+#include "cnx/CnxReader.h"
+
+#include <array>
 #include <unordered_set>
 
+#include "base/FileSystem.h"
 #include "base/Messages.h"
 #include "base/Report.h"
 #include "base/TextFile.h"
 #include "cnx/CnxLineReader.h"
 #include "cnx/CnxStatements.h"
+#include "cnx/ErrorLog.h"
 
 namespace plovix {
 
 namespace {
 
-// Every statement of a WM1.0 body; a dropped line makes the result false but reading goes on.
-bool readBody(CnxOperands& in, TextLineCursor& lines) {
-  CnxDescription& d = in.description();
-  CnxEndFiler filer(d.connectionMap);
+// The statements whose lines the retrieval info carries back; the header carries the others.
+constexpr std::array<std::string_view, 6> kRetrievedStatements = {
+    "LIBRARY:", "PARAMETER:", "CONSTANT:", "PRIVATE:", "USED_PORT:", "CONNECT:"};
+
+// The trimmed lines of `text` whose first word (up to a blank or tab) is a retrieved statement.
+std::string retrievedStatementsOf(std::string_view text) {
+  std::string kept;
+  TextLineCursor lines(text);
+  CnxLine line;
+  while (line.readFrom(lines)) {
+    const std::string_view firstWord = line.rest.substr(0, line.rest.find_first_of(" \t"));
+    for (std::string_view statement : kRetrievedStatements) {
+      if (firstWord != statement) continue;
+      kept += line.rest;
+      kept += '\n';
+      break;
+    }
+  }
+  return kept;
+}
+
+// The body of a WM1.0 file; a dropped line makes the result false but reading goes on.
+bool readBody(CnxOperands& in, CnxLine& line, TextLineCursor& lines, CnxBuild& build) {
   bool result = true;
-  while (readCnxLine(d, lines)) {
-    if (d.lineRest.empty()) continue;
+  while (line.readFrom(lines)) {
+    if (line.rest.empty()) continue;
     in.take();
     if (in.token().compare(0, 2, "//") == 0) continue;
-    if (!readCnxStatement(in, filer)) result = false;
+    if (!readCnxStatement(in, build)) result = false;
   }
-  filer.finish();
+  CnxDescription& d = build.description;
+  d.connectionMap = build.connections.finish();
   if (d.modules.empty()) return in.fail(Msg::kCnxNoModuleName);
-  std::unordered_set<std::string> known(d.moduleNames.begin(), d.moduleNames.end());
+  std::unordered_set<Name> known;
   for (const CnxModule& module : d.modules) {
     if (known.insert(module.moduleName).second) d.moduleNames.push_back(module.moduleName);
   }
   return result;
 }
 
+GenerationMode generationModeOf(std::string_view word) {
+  if (word == "STANDARD") return GenerationMode::kStandard;
+  if (word == "SYMBOL_ONLY") return GenerationMode::kSymbolOnly;
+  return GenerationMode::kInvalid;
+}
+
 // The generation line, the version line and the body; false at the first fault of the first two lines.
-bool readLines(CnxOperands& in, TextLineCursor& lines) {
-  CnxDescription& d = in.description();
-  if (!readCnxLine(d, lines)) return in.fail(Msg::kCnxUnexpectedEnd);
-  d.generationMode = takeGenerationMode(d);
-  if (d.generationMode == "INVALID") return in.fail(Msg::kCnxNoGenerationMode);
-  if (!readCnxLine(d, lines)) return in.fail(Msg::kCnxUnexpectedEnd);
-  d.version = takeHeaderValue(d, "VERSION:", {"WM1.0", "WM2.0"}, kVersionUnknown);
+bool readLines(CnxOperands& in, CnxLine& line, TextLineCursor& lines, CnxDescription& d) {
+  if (!line.readFrom(lines)) return in.fail(Msg::kCnxUnexpectedEnd);
+  d.generationMode = generationModeOf(takeGenerationWord(line));
+  if (d.generationMode == GenerationMode::kInvalid) return in.fail(Msg::kCnxNoGenerationMode);
+  if (!line.readFrom(lines)) return in.fail(Msg::kCnxUnexpectedEnd);
+  d.version = takeHeaderValue(line, "VERSION:", {"WM1.0", "WM2.0"}, kVersionUnknown);
   if (d.version == kVersionUnknown) return in.fail(Msg::kCnxUnknownVersionNumber);
   // Only the WM1.0 body has a reader; a WM2.0 file fails without a log entry.
   if (d.version != "WM1.0") return false;
-  return readBody(in, lines);
+  CnxBuild build{d, {}};
+  return readBody(in, line, lines, build);
 }
 
 }  // namespace
 
-bool CnxDescription::readDescription(UserInterface& ui) {
-  reset();
-  logError(ui, {});
+CnxReader::CnxReader(UserInterface& ui, std::string cnxPath)
+    : ui_(ui), errorLogPath_(cnxErrorLogPath(cnxPath)) {
+  description_.cnxPath = std::move(cnxPath);
+}
+
+const std::string& CnxReader::errorLogPath() const {
+  return errorLogPath_;
+}
+
+bool CnxReader::read() {
+  CnxErrorLog log(ui_, errorLogPath_);
+  CnxLine line;
+  log.add(line.counter, line.rest, {});  // the banner
   std::string text;
   int errorNumber = 0;
-  if (!readTextFile(cnxPath, text, errorNumber)) {
-    reportFileErrno(ui, errorNumber, cnxPath);
+  if (!readTextFile(description_.cnxPath, text, errorNumber)) {
+    reportFileErrno(ui_, errorNumber, description_.cnxPath);
     return false;
   }
-  CnxOperands in(*this, ui);
+  description_.retrievedStatements = retrievedStatementsOf(text);
+  CnxOperands in(line, log);
   TextLineCursor lines(text);
-  const bool result = readLines(in, lines);
-  if (!result) reportError(ui, Msg::kCnxFormatError, errorLogPath);
+  const bool result = readLines(in, line, lines, description_);
+  if (!result) reportError(ui_, Msg::kCnxFormatError, errorLogPath_);
   return result;
+}
+
+void deleteCnxWorkFiles(const std::string& cnxPath) {
+  if (cnxPath.empty()) return;
+  if (fileExists(cnxPath)) deleteFile(cnxPath);
+  const std::string logPath = cnxErrorLogPath(cnxPath);
+  if (fileExists(logPath)) deleteFile(logPath);
 }
 
 }  // namespace plovix

@@ -16,41 +16,33 @@ std::string_view withoutInversion(std::string_view text) {
   return text;
 }
 
-// The four values of a reference: width1, low1, width2, low2.
-using Bounds = std::array<std::string, 4>;
-
-// One end of a connection as filed under the other end's key: the peer's name and bounds, and the bounds it
-// has on the own side.
-CnxConnectionEnd connectionEnd(const std::string& peerInstance, const std::string& peerPort,
-                               const Bounds& peerBounds, const Bounds& ownBounds) {
-  CnxConnectionEnd end;
-  end.peerInstance = peerInstance;
-  end.peerPort = peerPort;
-  end.peerWidth1 = peerBounds[0];
-  end.peerLow1 = peerBounds[1];
-  end.peerWidth2 = peerBounds[2];
-  end.peerLow2 = peerBounds[3];
-  end.ownWidth1 = ownBounds[0];
-  end.ownLow1 = ownBounds[1];
-  end.ownWidth2 = ownBounds[2];
-  end.ownLow2 = ownBounds[3];
-  return end;
-}
-
-bool readBounds(CnxOperands& in, Bounds& bounds) {
-  for (std::string& value : bounds) {
-    if (!in.value(value)) return false;
+// The four values of a reference, as written: width1, low1, width2, low2.
+bool readShape(CnxOperands& in, CnxBuild& out, Shape& shape) {
+  std::array<std::string_view, 4> texts;
+  for (std::string_view& text : texts) {
+    if (!in.value(text)) return false;
   }
+  TextPool& pool = *out.description.names;
+  shape = Shape{{Bound::fromText(texts[0], pool), Bound::fromText(texts[1], pool)},
+                {Bound::fromText(texts[2], pool), Bound::fromText(texts[3], pool)}};
   return true;
 }
 
-bool isTwoDimensional(const std::string& width1, const std::string& width2) {
-  return width1 != "0" && width2 != "0";
+PortDefault portDefaultOf(Name text) {
+  if (text == kNoDefaultValue) return {DefaultKind::kNone, text};
+  if (text == "GND") return {DefaultKind::kGround, text};
+  if (text == "VCC") return {DefaultKind::kPower, text};
+  return {DefaultKind::kOther, text};
+}
+
+// The instance a reference names: the main module's for "@port" (empty before the first MODULE: line).
+Name instanceOf(const CnxReference& reference, CnxBuild& out) {
+  return reference.startsWithAt ? out.description.mainModuleName : out.intern(reference.instance);
 }
 
 }  // namespace
 
-CnxReference splitCnxReference(std::string_view text, const std::string& mainModuleName) {
+CnxReference splitCnxReference(std::string_view text) {
   CnxReference reference;
   reference.inverted = startsWith(text, "!");
   text = withoutInversion(text);
@@ -58,7 +50,8 @@ CnxReference splitCnxReference(std::string_view text, const std::string& mainMod
   if (at == std::string_view::npos) {
     reference.port = text;
   } else {
-    reference.instance = at == 0 ? mainModuleName : std::string(text.substr(0, at));
+    reference.startsWithAt = at == 0;
+    reference.instance = text.substr(0, at);
     reference.port = text.substr(at + 1);
   }
   return reference;
@@ -75,63 +68,63 @@ std::string invertedCnxConstant(std::string_view constant) {
   return formatText("%d", ~cnxNumberValue(constant));
 }
 
-bool readUsedPortStatement(CnxOperands& in) {
+bool readUsedPortStatement(CnxOperands& in, CnxBuild& out) {
+  std::string_view reference, defaultValue;
   CnxUsedPort port;
-  if (!in.portName(port.name)) return false;
-  const bool ofMainModule = startsWith(port.name, "@");
-  port.name = splitCnxReference(port.name, {}).port;
-  if (!in.value(port.width1) || !in.value(port.low1) || !in.value(port.width2) || !in.value(port.low2)) {
-    return false;
-  }
-  if (!in.portType(port.direction) || !in.value(port.defaultValue)) return false;
-  in.word(port.tag);
+  if (!in.portName(reference)) return false;
+  const bool ofMainModule = startsWith(reference, "@");
+  if (!readShape(in, out, port.shape)) return false;
+  if (!in.portType(port.direction) || !in.value(defaultValue)) return false;
+  const std::string_view tag = in.word();
   if (!in.endOfLine()) return false;
-  CnxDescription& d = in.description();
-  if (isTwoDimensional(port.width1, port.width2)) d.uses2D = true;
+  port.name = out.intern(splitCnxReference(reference).port);
+  port.defaultValue = portDefaultOf(out.intern(defaultValue));
+  port.tag = out.intern(tag);
+  CnxDescription& d = out.description;
+  if (port.shape.isTwoDimensional()) d.uses2D = true;
   if (ofMainModule) {
-    d.mainModulePorts.push_back(std::move(port));
-  } else if (port.direction == "INPUT") {
-    d.inputPorts.push_back(std::move(port));
+    d.mainModulePorts.push_back(port);
+  } else if (port.direction == PortDirection::kInput) {
+    d.inputPorts.push_back(port);
   } else {
-    d.outputPorts.push_back(std::move(port));
+    d.outputPorts.push_back(port);
   }
   return true;
 }
 
-bool readConnectStatement(CnxOperands& in, CnxEndFiler& filer) {
-  CnxDescription& d = in.description();
-  std::string text;
+bool readConnectStatement(CnxOperands& in, CnxBuild& out) {
+  std::string_view text;
   if (!in.portName(text)) return false;
-  const CnxReference driven = splitCnxReference(text, d.mainModuleName);
-  Bounds drivenBounds;
-  if (!readBounds(in, drivenBounds)) return false;
+  const CnxReference driven = splitCnxReference(text);
+  Shape drivenShape;
+  if (!readShape(in, out, drivenShape)) return false;
 
   if (!in.portName(text)) return false;
   const bool constant = isCnxConstant(text);
   CnxReference driver;
+  Name driverPort;
   if (constant) {
-    driver.port = withoutInversion(text);
-    if (startsWith(text, "!")) driver.port = invertedCnxConstant(driver.port);
+    driverPort =
+        startsWith(text, "!") ? out.intern(invertedCnxConstant(withoutInversion(text))) : out.intern(text);
   } else {
-    driver = splitCnxReference(text, d.mainModuleName);
+    driver = splitCnxReference(text);
   }
-  Bounds driverBounds;
-  if (!readBounds(in, driverBounds)) return false;
-  if (constant) driverBounds = {"0", "0", "0", "0"};
+  Shape driverShape;
+  if (!readShape(in, out, driverShape)) return false;
+  if (constant) driverShape = Shape{};
   if (!in.endOfLine()) return false;
 
-  if (isTwoDimensional(drivenBounds[0], drivenBounds[2]) ||
-      isTwoDimensional(driverBounds[0], driverBounds[2])) {
-    d.uses2D = true;
-  }
-  CnxConnectionEnd toDriver = connectionEnd(driver.instance, driver.port, driverBounds, drivenBounds);
-  toDriver.peerIsSource = true;
-  toDriver.peerInverted = driver.inverted;
-  toDriver.peerIsConstant = constant;
-  CnxConnectionEnd toDriven = connectionEnd(driven.instance, driven.port, drivenBounds, driverBounds);
+  if (drivenShape.isTwoDimensional() || driverShape.isTwoDimensional()) out.description.uses2D = true;
+  const Name drivenInstance = instanceOf(driven, out);
+  const Name drivenPort = out.intern(driven.port);
+  const Name driverInstance = constant ? Name() : instanceOf(driver, out);
+  if (!constant) driverPort = out.intern(driver.port);
 
-  filer.file(driven.instance, driven.port, std::move(toDriver));
-  filer.file(driver.instance, driver.port, std::move(toDriven));
+  CnxConnectionEnd toDriver{driverInstance, driverPort,      driverShape, drivenShape,
+                            true,           driver.inverted, constant};
+  CnxConnectionEnd toDriven{drivenInstance, drivenPort, drivenShape, driverShape, false, false, false};
+  out.connections.file(drivenInstance, drivenPort, toDriver);
+  out.connections.file(driverInstance, driverPort, toDriven);
   return true;
 }
 

@@ -7,13 +7,15 @@
 namespace plovix {
 
 struct CnxReference {
-  std::string instance;   // empty without "@"; the main module's name for a reference that starts with "@"
-  std::string port;       // the text after the first "@", or the whole text
-  bool inverted = false;  // the reference started with "!"
+  std::string_view instance;  // empty without "@"; see splitCnxReference for "@" at the start
+  std::string_view port;      // the text after the first "@", or the whole text
+  bool startsWithAt = false;  // the instance is the main module's
+  bool inverted = false;      // the reference started with "!"
 };
 
-// Splits a reference; a leading "!" is removed first and noted.
-CnxReference splitCnxReference(std::string_view text, const std::string& mainModuleName);
+// Splits a reference; a leading "!" is removed first and noted. A reference that starts with "@" names the
+// main module's instance, which the caller fills in.
+CnxReference splitCnxReference(std::string_view text);
 
 // Whether the text, without a leading "!", is "VCC", "GND" or a number (an optional "-" and decimal digits).
 bool isCnxConstant(std::string_view text);

@@ -1,70 +1,73 @@
 // The declaration statements of a CNX body (LIBRARY:, MODULE:, PARAMETER:, CONSTANT:, PRIVATE:) and the
 // dispatch of every statement line.
+#include "base/Messages.h"
 #include "cnx/CnxStatements.h"
 
-#include "base/Messages.h"
 
 namespace plovix {
 
 namespace {
 
-constexpr const char* kNoDefaultLibrary = "NO_DEFAULT_LIB";
-
-bool readLibrary(CnxOperands& in) {
-  CnxLibrary library;
-  if (!in.identifier(library.name)) return false;
-  const bool useOptional = library.name == kNoDefaultLibrary;
-  if (!(useOptional ? in.optionalIdentifier(library.use) : in.identifier(library.use))) return false;
+bool readLibrary(CnxOperands& in, CnxBuild& out) {
+  std::string_view name, use;
+  if (!in.identifier(name)) return false;
+  const bool useOptional = name == kNoDefaultLibrary;
+  if (!(useOptional ? in.optionalIdentifier(use) : in.identifier(use))) return false;
   if (!in.endOfLine()) return false;
-  in.description().libraries.push_back(std::move(library));
+  out.description.libraries.push_back({out.intern(name), out.intern(use)});
   return true;
 }
 
-bool readModule(CnxOperands& in) {
-  CnxModule module;
-  if (!in.identifier(module.moduleName)) return false;
-  in.word(module.givenInstanceName);
+bool readModule(CnxOperands& in, CnxBuild& out) {
+  std::string_view moduleName;
+  if (!in.identifier(moduleName)) return false;
+  const std::string_view givenInstanceName = in.word();
+  CnxModule module{out.intern(moduleName), {}, out.intern(givenInstanceName)};
   if (!in.endOfLine()) return false;
-  CnxDescription& d = in.description();
+  CnxDescription& d = out.description;
   if (d.mainModuleName.empty()) d.mainModuleName = module.moduleName;
   module.instanceName = module.givenInstanceName.empty() ? d.mainModuleName : module.givenInstanceName;
-  d.modules.push_back(std::move(module));
+  d.modules.push_back(module);
   return true;
 }
 
 // PARAMETER: and CONSTANT: lines share their grammar: name, type, optional value, optional target.
-template <class Record>
-bool readNamedValue(CnxOperands& in, std::vector<Record>& list) {
-  Record record;
-  if (!in.identifier(record.name) || !in.type(record.type)) return false;
-  in.word(record.value);
-  if (!in.optionalIdentifier(record.target) || !in.endOfLine()) return false;
-  list.push_back(std::move(record));
+bool readNamedValue(CnxOperands& in, CnxBuild& out, std::vector<CnxParameter>& list) {
+  std::string_view name, target;
+  CnxParameter record;
+  if (!in.identifier(name) || !in.type(record.type)) return false;
+  record.name = out.intern(name);
+  record.value = out.intern(in.word());
+  if (!in.optionalIdentifier(target) || !in.endOfLine()) return false;
+  record.target = out.intern(target);
+  list.push_back(record);
   return true;
 }
 
-bool readPrivate(CnxOperands& in) {
+bool readPrivate(CnxOperands& in, CnxBuild& out) {
+  std::string_view name;
   CnxPrivate record;
-  if (!in.identifier(record.name) || !in.type(record.type)) return false;
-  in.word(record.value);
+  if (!in.identifier(name) || !in.type(record.type)) return false;
+  record.name = out.intern(name);
+  record.value = out.intern(in.word());
   if (!in.endOfLine()) return false;
-  in.description().privates.push_back(std::move(record));
+  out.description.privates.push_back(record);
   return true;
 }
 
 }  // namespace
 
-bool readCnxStatement(CnxOperands& in, CnxEndFiler& filer) {
-  const std::string keyword = in.token();
-  CnxDescription& d = in.description();
-  if (keyword == "LIBRARY:") return readLibrary(in);
-  if (keyword == "MODULE:") return readModule(in);
-  if (keyword == "PARAMETER:") return readNamedValue(in, d.parameters);
-  if (keyword == "CONSTANT:") return readNamedValue(in, d.constants);
-  if (keyword == "PRIVATE:") return readPrivate(in);
-  if (keyword == "USED_PORT:") return readUsedPortStatement(in);
-  if (keyword == "CONNECT:") return readConnectStatement(in, filer);
-  if (keyword == "SYMBOL:") return readSymbolStatement(in);
+bool readCnxStatement(CnxOperands& in, CnxBuild& out) {
+  const std::string_view keyword = in.token();
+  CnxDescription& d = out.description;
+  if (keyword == "LIBRARY:") return readLibrary(in, out);
+  if (keyword == "MODULE:") return readModule(in, out);
+  if (keyword == "PARAMETER:") return readNamedValue(in, out, d.parameters);
+  if (keyword == "CONSTANT:") return readNamedValue(in, out, d.constants);
+  if (keyword == "PRIVATE:") return readPrivate(in, out);
+  if (keyword == "USED_PORT:") return readUsedPortStatement(in, out);
+  if (keyword == "CONNECT:") return readConnectStatement(in, out);
+  if (keyword == "SYMBOL:") return readSymbolStatement(in, out);
   return in.fail(Msg::kCnxUnknownStatement);
 }
 

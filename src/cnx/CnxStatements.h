@@ -1,18 +1,30 @@
-// The statement lines of a CNX body: dispatch on the first token and the declaration statements.
+// The statement lines of a CNX body: dispatch on the first token, and what the statements build.
 #pragma once
 
+#include <string_view>
+
 #include "cnx/CnxConnectionMap.h"
+#include "cnx/CnxDescription.h"
 #include "cnx/CnxOperands.h"
 
 namespace plovix {
 
+// What the statements of one file build: the description (its names interned in its pool) and the
+// connection map, which is put in order once the whole file is read.
+struct CnxBuild {
+  CnxDescription& description;
+  CnxConnectionMapBuilder connections;
+
+  Name intern(std::string_view text) { return description.names->intern(text); }
+};
+
 // Reads the statement whose first token has just been taken (it is the operands' current token) and stores
 // its record; false, with one log entry (or none, where a statement says so), when the line is dropped.
-bool readCnxStatement(CnxOperands& in, CnxEndFiler& filer);
+bool readCnxStatement(CnxOperands& in, CnxBuild& out);
 
 // USED_PORT: and CONNECT: lines (CnxReferences.cpp); SYMBOL: lines (SymbolSection.cpp).
-bool readUsedPortStatement(CnxOperands& in);
-bool readConnectStatement(CnxOperands& in, CnxEndFiler& filer);
-bool readSymbolStatement(CnxOperands& in);
+bool readUsedPortStatement(CnxOperands& in, CnxBuild& out);
+bool readConnectStatement(CnxOperands& in, CnxBuild& out);
+bool readSymbolStatement(CnxOperands& in, CnxBuild& out);
 
 }  // namespace plovix

@@ -1,10 +1,12 @@
 // The CNX error log: its banner, written when the log is (re)created, and one entry per fault found.
+#include "cnx/ErrorLog.h"
+
 #include <cerrno>
 
 #include "base/Format.h"
+#include "base/PathText.h"
 #include "base/Report.h"
 #include "base/TextFile.h"
-#include "cnx/CnxDescription.h"
 
 namespace plovix {
 
@@ -17,27 +19,31 @@ std::string errorLogBanner() {
 }
 
 // The line number is the physical line of the file: the counter already counts the line being read.
-std::string errorLogEntry(int32_t lineCounter, const std::string& lineRest, const std::string& message) {
-  return formatText("Line %d: %s\n\t\t%s\n\n", lineCounter - 1, lineRest.c_str(), message.c_str());
+std::string errorLogEntry(int32_t lineCounter, std::string_view lineRest, std::string_view message) {
+  return formatText("Line %d: %s\n\t\t%s\n\n", lineCounter - 1, std::string(lineRest).c_str(),
+                    std::string(message).c_str());
 }
 
 }  // namespace
 
-bool CnxDescription::logError(UserInterface& ui, const std::string& message) {
+std::string cnxErrorLogPath(const std::string& cnxPath) {
+  return cnxPath.empty() ? std::string() : pathWithoutExtension(cnxPath) + ".cnxerr";
+}
+
+bool CnxErrorLog::add(int32_t lineCounter, std::string_view lineRest, std::string_view message) {
   int errorNumber = 0;
-  if (errorLogFresh) {
+  if (fresh_) {
     // A description without a path has no log to create.
-    if (errorLogPath.empty()) {
-      reportFileErrno(ui, ENOENT, errorLogPath);
-    } else if (writeTextFile(errorLogPath, errorLogBanner(), errorNumber)) {
-      errorLogFresh = false;
+    if (path_.empty()) {
+      reportFileErrno(ui_, ENOENT, path_);
+    } else if (writeTextFile(path_, errorLogBanner(), errorNumber)) {
+      fresh_ = false;
     } else {
-      reportFileErrno(ui, errorNumber, errorLogPath);
+      reportFileErrno(ui_, errorNumber, path_);
     }
     return false;
   }
-  // An entry that cannot be appended is dropped.
-  appendTextFile(errorLogPath, errorLogEntry(lineCounter, lineRest, message), errorNumber);
+  appendTextFile(path_, errorLogEntry(lineCounter, lineRest, message), errorNumber);
   return false;
 }
 

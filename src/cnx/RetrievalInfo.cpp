@@ -1,6 +1,6 @@
 // The retrieval info: the CNX statements embedded as comment lines at the end of a design file, and the
 // CNX file rebuilt from a variation file's header and retrieval info in edit mode.
-#include <array>
+#include "cnx/RetrievalInfo.h"
 
 #include "base/Format.h"
 #include "base/Messages.h"
@@ -9,7 +9,6 @@
 #include "base/Report.h"
 #include "base/TextFile.h"
 #include "base/TextHelpers.h"
-#include "cnx/CnxDescription.h"
 #include "cnx/CnxLineReader.h"
 
 namespace plovix {
@@ -18,27 +17,17 @@ namespace {
 
 constexpr std::string_view kRetrievalMarker = "Retrieval info:";
 
-// The statements whose lines the retrieval info carries; the header carries the others.
-constexpr std::array<std::string_view, 6> kCopiedStatements = {
-    "LIBRARY:", "PARAMETER:", "CONSTANT:", "PRIVATE:", "USED_PORT:", "CONNECT:"};
-
-std::string retrievalInfoBanner(const std::string& leader) {
+std::string retrievalInfoBanner(std::string_view leader) {
+  const std::string text(leader);
   return formatText(
       "%s ============================================================\n%s CNX file retrieval info\n%s "
       "============================================================\n",
-      leader.c_str(), leader.c_str(), leader.c_str());
+      text.c_str(), text.c_str(), text.c_str());
 }
 
-bool isCopiedStatement(std::string_view trimmedLine) {
-  const std::string_view firstWord = trimmedLine.substr(0, trimmedLine.find_first_of(" \t"));
-  for (std::string_view statement : kCopiedStatements) {
-    if (firstWord == statement) return true;
-  }
-  return false;
-}
-
-std::string retrievalInfoLine(const std::string& leader, const std::string& trimmedLine) {
-  return formatText("%s %s %s\n", leader.c_str(), std::string(kRetrievalMarker).c_str(), trimmedLine.c_str());
+std::string retrievalInfoLine(const std::string& leader, std::string_view trimmedLine) {
+  return formatText("%s %s %s\n", leader.c_str(), std::string(kRetrievalMarker).c_str(),
+                    std::string(trimmedLine).c_str());
 }
 
 // The tokens of a variation file's header lines: comment leader, keyword, value, and for module lines an
@@ -89,26 +78,16 @@ std::string retrievedStatement(std::string_view line, size_t markerAt) {
 
 }  // namespace
 
-bool CnxDescription::writeRetrievalInfo(UserInterface& ui, const std::string& outputExtension,
-                                        std::string& out) {
-  std::string text;
-  int errorNumber = 0;
-  if (!readTextFile(cnxPath, text, errorNumber)) {
-    reportFileErrno(ui, errorNumber, cnxPath);
-    return false;
-  }
-  commentLeader = commentLeaderOfExtension(outputExtension);
-  out += retrievalInfoBanner(commentLeader);
-  TextLineCursor lines(text);
+std::string retrievalInfoText(const CnxDescription& description, std::string_view commentLeader) {
+  const std::string leader(commentLeader);
+  std::string text = retrievalInfoBanner(leader);
+  TextLineCursor lines(description.retrievedStatements);
   std::string_view line;
-  while (lines.next(line)) {
-    const std::string trimmed = trimText(line);
-    if (isCopiedStatement(trimmed)) out += retrievalInfoLine(commentLeader, trimmed);
-  }
-  return true;
+  while (lines.next(line)) text += retrievalInfoLine(leader, line);
+  return text;
 }
 
-bool CnxDescription::extractRetrievalInfo(UserInterface& ui, const std::string& variationPath) {
+bool extractRetrievalInfo(UserInterface& ui, const std::string& variationPath) {
   if (readModulonNameOfFile(variationPath) == kNotWizardMarker) return false;
   std::string text;
   int errorNumber = 0;
@@ -116,7 +95,7 @@ bool CnxDescription::extractRetrievalInfo(UserInterface& ui, const std::string& 
     reportFileErrno(ui, errorNumber, variationPath);
     return false;
   }
-  commentLeader = commentLeaderOfExtension(splitPath(variationPath, PathPart::kExtension));
+  const std::string commentLeader = commentLeaderOfExtension(splitPath(variationPath, PathPart::kExtension));
   TextLineCursor lines(text);
   std::string_view line;
   lines.next(line);  // the signature line
@@ -129,8 +108,7 @@ bool CnxDescription::extractRetrievalInfo(UserInterface& ui, const std::string& 
     reportError(ui, Msg::kCnxUnknownVersion, std::string(kManagerName));
     return false;
   }
-  version = fileVersion;
-  std::string cnx = formatText("%s %s\n", "VERSION:", version.c_str());
+  std::string cnx = formatText("%s %s\n", "VERSION:", fileVersion.c_str());
   bool moduleFound = false;
   while (lines.next(line)) {
     const std::string module = moduleLine(ui, line, commentLeader);
@@ -147,7 +125,6 @@ bool CnxDescription::extractRetrievalInfo(UserInterface& ui, const std::string& 
     reportFileErrno(ui, errorNumber, path);
     return false;
   }
-  cnxPath = path;
   if (!moduleFound) {
     reportError(ui, Msg::kCnxWithoutModule, std::string(kManagerName));
     return false;

@@ -2,13 +2,12 @@
 // starts from it.
 #include "base/Report.h"
 #include "base/TextFile.h"
-#include "cnx/CnxDescription.h"
 #include "cnx/CnxLineReader.h"
+#include "cnx/RetrievalInfo.h"
 
 namespace plovix {
 
-bool CnxDescription::stripGenerationLine(UserInterface& ui, const std::string& cnxFilePath) {
-  reset();
+bool stripGenerationLine(UserInterface& ui, const std::string& cnxFilePath) {
   std::string text;
   int errorNumber = 0;
   if (!readTextFile(cnxFilePath, text, errorNumber)) {
@@ -16,9 +15,9 @@ bool CnxDescription::stripGenerationLine(UserInterface& ui, const std::string& c
     return false;
   }
   TextLineCursor lines(text);
-  if (!readCnxLine(*this, lines)) return true;
-  generationMode = takeGenerationMode(*this);
-  if (generationMode == "INVALID") return true;
+  CnxLine first;
+  if (!first.readFrom(lines)) return true;
+  if (takeGenerationWord(first) == "INVALID") return true;
   std::string rest;
   rest.reserve(text.size());
   std::string_view line;

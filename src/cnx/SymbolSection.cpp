@@ -6,24 +6,34 @@ namespace plovix {
 
 namespace {
 
+// A keyword operand kept as text in the element record.
+bool keywordInto(CnxOperands& in, std::string& out, std::initializer_list<std::string_view> allowed,
+                 bool optional, Msg message) {
+  std::string_view text;
+  if (!in.keyword(text, allowed, optional, message)) return false;
+  out = text;
+  return true;
+}
+
 bool lineStyle(CnxOperands& in, std::string& out) {
-  return in.keyword(out, {"DOTTED", "DENSE", "BROKEN", "DASHED", "BUS", "SOLID"}, true, Msg::kCnxNoLineStyle);
+  return keywordInto(in, out, {"DOTTED", "DENSE", "BROKEN", "DASHED", "BUS", "SOLID"}, true,
+                     Msg::kCnxNoLineStyle);
 }
 
 bool lineWidth(CnxOperands& in, std::string& out) {
-  return in.keyword(out, {"THICK", "THIN"}, true, Msg::kCnxNoLineWidth);
+  return keywordInto(in, out, {"THICK", "THIN"}, true, Msg::kCnxNoLineWidth);
 }
 
 bool orientation(CnxOperands& in, std::string& out) {
-  return in.keyword(out, {"HORIZ", "VERT"}, true, Msg::kCnxNoOrientation);
+  return keywordInto(in, out, {"HORIZ", "VERT"}, true, Msg::kCnxNoOrientation);
 }
 
 bool stubType(CnxOperands& in, std::string& out) {
-  return in.keyword(out, {"IN", "OUT", "BIDIR"}, false, Msg::kCnxNoStubType);
+  return keywordInto(in, out, {"IN", "OUT", "BIDIR"}, false, Msg::kCnxNoStubType);
 }
 
 bool logical(CnxOperands& in, bool& out) {
-  std::string text;
+  std::string_view text;
   if (!in.keyword(text, {"TRUE", "FALSE"}, true, Msg::kCnxNoLogical)) return false;
   out = text == "TRUE";
   return true;
@@ -60,9 +70,9 @@ bool readCircle(CnxOperands& in, SymbolElement& element) {
 
 bool readText(CnxOperands& in, SymbolElement& element) {
   SymbolText text;
-  in.word(text.text);
+  text.text = in.word();
   if (!in.number(text.x) || !in.number(text.y) || !orientation(in, text.orientation)) return false;
-  in.word(text.font);
+  text.font = in.word();
   if (!in.endOfLine()) return false;
   element = {SymbolKind::kText, std::move(text)};
   return true;
@@ -71,7 +81,7 @@ bool readText(CnxOperands& in, SymbolElement& element) {
 bool readPinStub(CnxOperands& in, SymbolElement& element) {
   SymbolPinStub stub;
   if (!in.number(stub.x) || !in.number(stub.y) || !stubType(in, stub.stubType)) return false;
-  in.word(stub.pinName);
+  stub.pinName = in.word();
   if (!in.number(stub.textX) || !in.number(stub.textY)) return false;
   // An absent label repeats the pin name; the empty quoted label stays empty (the pin name is then hidden).
   if (in.take() || in.emptyQuoted()) {
@@ -80,7 +90,7 @@ bool readPinStub(CnxOperands& in, SymbolElement& element) {
     stub.label = stub.pinName;
   }
   if (!orientation(in, stub.orientation)) return false;
-  in.word(stub.font);
+  stub.font = in.word();
   if (!in.endOfLine()) return false;
   element = {SymbolKind::kPinStub, std::move(stub)};
   return true;
@@ -91,28 +101,28 @@ bool readParameter(CnxOperands& in, SymbolElement& element) {
   // Without its text the line is dropped without a log entry.
   if (!in.take()) return false;
   parameter.text = in.token();
-  in.word(parameter.font);
+  parameter.font = in.word();
   if (!in.endOfLine()) return false;
   element = {SymbolKind::kParameter, std::move(parameter)};
   return true;
 }
 
-bool readBox(CnxOperands& in, SymbolElement& element) {
+bool readBox(CnxOperands& in, CnxBuild& out, SymbolElement& element) {
   // Any BOX line, even one that is dropped, asks for the drawn symbol instead of the generated one.
-  in.description().defaultSymbolBox = false;
+  out.description.defaultSymbolBox = false;
   SymbolBox box;
   for (int32_t* field : {&box.sheetWidth, &box.sheetHeight, &box.nameX, &box.nameY}) {
     if (!in.number(*field)) return false;
   }
-  in.word(box.font);
+  box.font = in.word();
   if (!in.endOfLine()) return false;
   element = {SymbolKind::kBox, std::move(box)};
   return true;
 }
 
-bool readElement(CnxOperands& in, SymbolElement& element) {
+bool readElement(CnxOperands& in, CnxBuild& out, SymbolElement& element) {
   in.take();
-  const std::string keyword = in.token();
+  const std::string_view keyword = in.token();
   if (keyword == "LINE") return readLine(in, false, element);
   if (keyword == "RECT") return readLine(in, true, element);
   if (keyword == "ARC") return readArc(in, element);
@@ -120,16 +130,16 @@ bool readElement(CnxOperands& in, SymbolElement& element) {
   if (keyword == "TEXT") return readText(in, element);
   if (keyword == "PINSTUB") return readPinStub(in, element);
   if (keyword == "PARAMETER") return readParameter(in, element);
-  if (keyword == "BOX") return readBox(in, element);
+  if (keyword == "BOX") return readBox(in, out, element);
   return in.fail(Msg::kCnxUnknownSymbolElement);
 }
 
 }  // namespace
 
-bool readSymbolStatement(CnxOperands& in) {
+bool readSymbolStatement(CnxOperands& in, CnxBuild& out) {
   SymbolElement element;
-  if (!readElement(in, element)) return false;
-  in.description().symbolElements.push_back(std::move(element));
+  if (!readElement(in, out, element)) return false;
+  out.description.symbolElements.push_back(std::move(element));
   return true;
 }
 

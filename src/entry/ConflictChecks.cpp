@@ -34,7 +34,7 @@ std::string resolveSubComponentClash(UserInterface& ui, const ManagerRun& run) {
   if (run.description != nullptr) {
     for (const CnxModule& module : run.description->modules) {
       if (!name.empty()) used.insert(name.back());
-      if (toLowerText(module.moduleName) == name) {
+      if (toLowerText(module.moduleName.view()) == name) {
         clash = true;
         break;
       }

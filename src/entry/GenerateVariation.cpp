@@ -3,6 +3,7 @@
 #include "entry/GenerateVariation.h"
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "base/Messages.h"
@@ -18,6 +19,20 @@
 namespace plovix {
 
 namespace {
+
+// The netlist of the run's description, built once, when a VHDL or Verilog text first needs it.
+class NetlistOnce {
+ public:
+  explicit NetlistOnce(const ManagerRun& run) : run_(run) {}
+  const Netlist& get() {
+    if (!netlist_) netlist_ = buildNetlist(*run_.description, run_.modulonName);
+    return *netlist_;
+  }
+
+ private:
+  const ManagerRun& run_;
+  std::optional<Netlist> netlist_;
+};
 
 // Asks the overwrite question when something would be overwritten; true to write.
 bool confirmOverwrite(UserInterface& ui, const ManagerApp& app, bool companions, bool symbol) {
@@ -43,12 +58,12 @@ void writeLaterFiles(UserInterface& ui, ManagerApp& app, bool companions, bool s
 }
 
 // The design file of the output language, then, once confirmed, the companions, symbol and templates.
-void writeDesignSet(ManagerApp& app, UserInterface& ui, ThdlFileWriter& thdl, const std::string& basePath,
-                    bool writeSymbol) {
+void writeDesignSet(ManagerApp& app, UserInterface& ui, ThdlFileWriter& thdl, NetlistOnce& netlist,
+                    const std::string& basePath, bool writeSymbol) {
   ManagerRun& run = app.run;
-  CnxDescription& description = *run.description;
-  VhdlFileWriter vhdl(ui, basePath, run.modulonName, description);
-  VerilogFileWriter verilog(ui, basePath, run.modulonName, description);
+  const CnxDescription& description = *run.description;
+  VhdlFileWriter vhdl(ui, basePath, run.modulonName, description, netlist.get());
+  VerilogFileWriter verilog(ui, basePath, run.modulonName, description, netlist.get());
   HdlFileWriter* const writers[] = {&thdl, &vhdl, &verilog};
   for (HdlFileWriter* writer : writers) writer->recordWritesIn(run.outcome);
   for (HdlFileWriter* writer : writers) {
@@ -83,7 +98,7 @@ void writeSymbolOnly(ManagerApp& app, UserInterface& ui, ThdlFileWriter& thdl) {
 }
 
 // The design text in the modulon's native language, when the catalog names one, handed to the host.
-void writeNativeCopy(ManagerApp& app, UserInterface& ui, const std::string& basePath) {
+void writeNativeCopy(ManagerApp& app, UserInterface& ui, NetlistOnce& netlist, const std::string& basePath) {
   ManagerRun& run = app.run;
   if (run.catalog == nullptr) return;
   const CatalogEntry* entry = run.catalog->findEntry(run.modulonName);
@@ -93,10 +108,10 @@ void writeNativeCopy(ManagerApp& app, UserInterface& ui, const std::string& base
   std::string text;
   switch (kind->language) {
     case OutputLanguage::kVhdl:
-      text = VhdlFileWriter(ui, basePath, run.modulonName, *run.description).designText();
+      text = VhdlFileWriter(ui, basePath, run.modulonName, *run.description, netlist.get()).designText();
       break;
     case OutputLanguage::kVerilog:
-      text = VerilogFileWriter(ui, basePath, run.modulonName, *run.description).designText();
+      text = VerilogFileWriter(ui, basePath, run.modulonName, *run.description, netlist.get()).designText();
       break;
     case OutputLanguage::kThdl:
       return;  // a copy is made in VHDL or Verilog HDL only
@@ -128,17 +143,18 @@ bool generateVariationFiles(ManagerApp& app, UserInterface& ui, const std::strin
     run.extension = extension;
   }
 
+  NetlistOnce netlist(run);
   const bool goOn = confirmSameNameFiles(ui, run, app.projectDirectory);
   if (goOn) {
     run.outcome.generated = true;
     ThdlFileWriter thdl(ui, basePath, run.modulonName, *run.description);
     if (writeDesign) {
-      writeDesignSet(app, ui, thdl, basePath, writeSymbol);
+      writeDesignSet(app, ui, thdl, netlist, basePath, writeSymbol);
     } else {
       writeSymbolOnly(app, ui, thdl);
     }
   }
-  writeNativeCopy(app, ui, basePath);
+  writeNativeCopy(app, ui, netlist, basePath);
   return goOn;
 }
 

@@ -212,13 +212,12 @@ void runPages(ManagerApp& app, RunSteps& steps) {
         break;
       }
       case RunState::kGenerate: {
-        run.description->setCnxPath(run.cnxPath());
         if (steps.readDescription(run)) {
           run.fileTitle = steps.resolveSubComponentClash(run);
-          const std::string& mode = run.description->generationMode;
-          if (mode == "STANDARD") {
+          const GenerationMode mode = run.description->generationMode;
+          if (mode == GenerationMode::kStandard) {
             steps.generateVariationFiles(run, run.outputPath(), true, true);
-          } else if (mode == "SYMBOL_ONLY") {
+          } else if (mode == GenerationMode::kSymbolOnly) {
             steps.generateVariationFiles(run, run.outputPath(), false, true);
           }
           steps.deleteWorkFiles(run);

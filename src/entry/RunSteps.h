@@ -35,7 +35,7 @@ class RunSteps {
   // Starts the modulon's plug-in and waits for it.
   virtual LaunchResult launchPlugin(ManagerRun& run) = 0;
 
-  // Reads the description whose path the run has set.
+  // Reads the description from the run's CNX path into run.description.
   virtual bool readDescription(ManagerRun& run) = 0;
 
   virtual std::string resolveSubComponentClash(ManagerRun& run) = 0;

@@ -1,6 +1,8 @@
 // The real steps of a run, each handing over to the subsystem that does the work.
 #include "entry/StandardRunSteps.h"
 
+#include "cnx/CnxReader.h"
+#include "cnx/RetrievalInfo.h"
 #include "entry/ConflictChecks.h"
 #include "entry/GenerateVariation.h"
 #include "entry/PluginLaunch.h"
@@ -31,12 +33,12 @@ PageResult StandardRunSteps::showBrowserPage(ManagerRun& run, VariationBrowserPa
   return pages_.showBrowserPage(page, context);
 }
 
-bool StandardRunSteps::stripGenerationLine(ManagerRun& run, const std::string& cnxPath) {
-  return run.description->stripGenerationLine(ui_, cnxPath);
+bool StandardRunSteps::stripGenerationLine(ManagerRun&, const std::string& cnxPath) {
+  return plovix::stripGenerationLine(ui_, cnxPath);
 }
 
-bool StandardRunSteps::extractRetrievalInfo(ManagerRun& run, const std::string& variationPath) {
-  return run.description->extractRetrievalInfo(ui_, variationPath);
+bool StandardRunSteps::extractRetrievalInfo(ManagerRun&, const std::string& variationPath) {
+  return plovix::extractRetrievalInfo(ui_, variationPath);
 }
 
 LaunchResult StandardRunSteps::launchPlugin(ManagerRun&) {
@@ -44,7 +46,10 @@ LaunchResult StandardRunSteps::launchPlugin(ManagerRun&) {
 }
 
 bool StandardRunSteps::readDescription(ManagerRun& run) {
-  return run.description->readDescription(ui_);
+  CnxReader reader(ui_, run.cnxPath());
+  const bool read = reader.read();
+  *run.description = reader.takeDescription();
+  return read;
 }
 
 std::string StandardRunSteps::resolveSubComponentClash(ManagerRun& run) {
@@ -57,7 +62,7 @@ bool StandardRunSteps::generateVariationFiles(ManagerRun&, const std::string& ou
 }
 
 void StandardRunSteps::deleteWorkFiles(ManagerRun& run) {
-  run.description->deleteWorkFiles();
+  deleteCnxWorkFiles(run.description->cnxPath);
 }
 
 void StandardRunSteps::offerVendorScript(ManagerRun&) {

@@ -2,46 +2,32 @@
 #include "hdl/HdlFileWriter.h"
 
 #include <utility>
-#include <vector>
 
+#include "base/Messages.h"
 #include "base/PathText.h"
 #include "base/Report.h"
 #include "base/TextFile.h"
+#include "cnx/RetrievalInfo.h"
 #include "symbol/SymbolBuilder.h"
 
 namespace plovix {
 
-namespace {
-
-// Holds back the reports of a step until it is known whether they are to be shown; questions go through.
-class HeldReports : public UserInterface {
- public:
-  explicit HeldReports(UserInterface& ui) : ui_(ui) {}
-  void report(const std::string& text) override { held_.push_back(text); }
-  bool ask(const std::string& text) override { return ui_.ask(text); }
-  bool processEvents() override { return ui_.processEvents(); }
-  void show() {
-    for (const std::string& text : held_) ui_.report(text);
-    held_.clear();
-  }
-
- private:
-  UserInterface& ui_;
-  std::vector<std::string> held_;
-};
-
-}  // namespace
-
 HdlFileWriter::HdlFileWriter(UserInterface& ui, std::string basePath, std::string signatureName,
-                             CnxDescription& description)
+                             const CnxDescription& description)
     : ui_(ui),
       basePath_(std::move(basePath)),
       signatureName_(std::move(signatureName)),
       fileName_(splitPath(basePath_, PathPart::kBaseName)),
-      version_(description.version),
       description_(description) {}
 
-bool HdlFileWriter::writeFile(const std::string& path, const std::string& text) {
+void HdlFileWriter::setOutputKind(OutputLanguage language) {
+  const OutputKind& kind = outputKind(language);
+  commentLeader_ = std::string(kind.commentLeader);
+  designExtension_ = std::string(kind.designExtension);
+  companionExtension_ = std::string(kind.companionExtension);
+}
+
+bool HdlFileWriter::writeFile(const std::string& path, const std::string& text) const {
   int errorNumber = 0;
   const bool written = writeTextFile(path, text, errorNumber);
   if (!written) reportFileErrno(ui_, errorNumber, path);
@@ -49,24 +35,18 @@ bool HdlFileWriter::writeFile(const std::string& path, const std::string& text) 
   return written;
 }
 
-// The design text and the retrieval-info block go to the file in one write. The block's own failures are
-// shown only when the design text reached the file, as if the block had been appended to the written text.
-bool HdlFileWriter::writeDesignFile() {
+// The design text and the retrieval-info block go to the file in one write.
+bool HdlFileWriter::writeDesignFile() const {
   std::string text = buildDesignText();
-  HeldReports held(ui_);
-  std::string block;
-  const bool blockBuilt = description_.writeRetrievalInfo(held, designExtension_, block);
-  if (blockBuilt) text += block;
-  if (!writeFile(basePath_ + designExtension_, text)) return false;
-  held.show();
-  return blockBuilt;
+  text += retrievalInfoText(description_, commentLeader_);
+  return writeFile(basePath_ + designExtension_, text);
 }
 
-bool HdlFileWriter::writeCompanionFile() {
+bool HdlFileWriter::writeCompanionFile() const {
   return writeFile(companionPath(), buildCompanionText());
 }
 
-bool HdlFileWriter::writeSymbolFile() {
+bool HdlFileWriter::writeSymbolFile() const {
   SymbolBuilder builder(ui_, basePath_, description_);
   const bool written = builder.buildSymbol();
   if (outcome_ != nullptr)
@@ -74,12 +54,8 @@ bool HdlFileWriter::writeSymbolFile() {
   return written;
 }
 
-bool HdlFileWriter::writeInstanceFile() {
+bool HdlFileWriter::writeInstanceFile() const {
   return writeFile(instancePath(), buildInstanceText());
-}
-
-std::string HdlFileWriter::designText() {
-  return buildDesignText();
 }
 
 }  // namespace plovix

@@ -2,19 +2,23 @@
 #include "hdl/NetlistKeys.h"
 
 #include "base/Format.h"
-#include "base/TextHelpers.h"
 
 namespace plovix {
 
-std::string rangeText(const std::string& width, const std::string& low) {
-  if (width == "0") return {};
-  return "[" + upperBoundText(width, low) + ":" + low + "]";
+std::string rangeText(Bound width, Bound low) {
+  if (width.isZero()) return {};
+  std::string text = "[" + Range{width, low}.upperText() + ":";
+  low.appendTo(text);
+  return text + "]";
 }
 
-std::string endKeyText(const std::string& instance, const std::string& port, bool inverted) {
-  std::string key = inverted ? "!" : "";
-  if (!instance.empty()) key += instance + "_component" + ".";
-  return key + port;
+void appendEndKey(std::string& out, std::string_view instance, std::string_view port, bool inverted) {
+  if (inverted) out += '!';
+  if (!instance.empty()) {
+    out += instance;
+    out += "_component.";
+  }
+  out += port;
 }
 
 std::string decimalText(long long value) {

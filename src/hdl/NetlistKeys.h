@@ -1,16 +1,22 @@
-// The texts the netlist builder and the writers compose: range texts and wire keys.
+// The texts the netlist builder and the writers compose: range texts and wire keys, and integer helpers.
 #pragma once
 
 #include <string>
+#include <string_view>
+
+#include "cnx/Bounds.h"
 
 namespace plovix {
 
-// "[" + upper + ":" + low + "]" for a width other than "0", else empty.
-std::string rangeText(const std::string& width, const std::string& low);
+// "[" + upper + ":" + low + "]" of a range whose width is not "0", else empty.
+std::string rangeText(Bound width, Bound low);
+inline std::string rangeText(const Range& range) {
+  return rangeText(range.width, range.low);
+}
 
-// The key text of a connection end: "!" (inverted only) + instance + "_component." + port, or for a variation
-// port ("" instance) "!" (inverted only) + port.
-std::string endKeyText(const std::string& instance, const std::string& port, bool inverted);
+// Appends the key text of a connection end to `out`: "!" (inverted only) + instance + "_component." + port,
+// or for a variation port (empty instance) "!" (inverted only) + port.
+void appendEndKey(std::string& out, std::string_view instance, std::string_view port, bool inverted);
 
 // The decimal text of an integer.
 std::string decimalText(long long value);

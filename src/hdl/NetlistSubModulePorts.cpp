@@ -4,95 +4,96 @@
 #include <unordered_set>
 
 #include "base/TextHelpers.h"
-#include "hdl/HdlFileWriter.h"
-#include "hdl/NetlistKeys.h"
+#include "hdl/NetlistBuilder.h"
 
 namespace plovix {
 
 namespace {
 
-// The names of the variation's bidirectional ports, looked up once instead of scanning the outputs per
-// record.
-std::unordered_set<std::string> bidirOutputNames(const CnxDescription& description) {
-  std::unordered_set<std::string> names;
-  for (const CnxUsedPort& port : description.outputPorts) {
-    if (port.direction == "BIDIR") names.insert(port.name);
+struct ModulePortKey {
+  Name module, port;
+  friend bool operator==(const ModulePortKey&, const ModulePortKey&) = default;
+};
+struct ModulePortKeyHash {
+  size_t operator()(const ModulePortKey& key) const { return key.module.hash() * 31 + key.port.hash(); }
+};
+
+// A stored bound changes only for a strictly larger width or a strictly smaller low index, and then becomes
+// the plain number; otherwise its text stays as written, so a symbolic bound survives a tie.
+void growTo(Bound& width, long long value, TextPool& texts) {
+  if (value > width.value()) width = Bound::ofNumber(value, texts);
+}
+
+void shrinkTo(Bound& low, long long value, TextPool& texts) {
+  if (value < low.value()) low = Bound::ofNumber(value, texts);
+}
+
+// A driven end turns an output into a bidirectional port, a driving end an input.
+void mergeEnd(SubModulePort& record, const CnxConnectionEnd& e, TextPool& texts) {
+  const SubModuleDirection other = e.peerIsSource ? SubModuleDirection::kOut : SubModuleDirection::kIn;
+  if (record.direction == other) {
+    record.direction = SubModuleDirection::kInOut;
+  } else if (record.direction != SubModuleDirection::kInOut) {
+    record.direction = e.peerIsSource ? SubModuleDirection::kIn : SubModuleDirection::kOut;
   }
-  return names;
+  growTo(record.shape.rows.width, e.own.rows.width.value() + e.own.rows.low.value(), texts);
+  shrinkTo(record.shape.rows.low, e.own.rows.low.value(), texts);
+  growTo(record.shape.bits.width, e.own.bits.width.value(), texts);
+  shrinkTo(record.shape.bits.low, e.own.bits.low.value(), texts);
 }
 
-// A stored bound changes only for a strictly larger width or a strictly smaller low index, and is then
-// stored as decimal text; otherwise its text stays as it is, so a symbolic bound survives a tie.
-void growTo(std::string& width, long long value) {
-  if (value > atoiText(width)) width = decimalText(value);
-}
-
-void shrinkTo(std::string& low, long long value) {
-  if (value < atoiText(low)) low = decimalText(value);
-}
-
-void mergeEnd(SubModulePort& record, const CnxConnectionEnd& e) {
-  const std::string other = e.peerIsSource ? "OUT" : "IN";
-  if (record.directionWord == other) {
-    record.directionWord = "INOUT";
-  } else if (record.directionWord != "INOUT") {
-    record.directionWord = e.peerIsSource ? "IN" : "OUT";
-  }
-  growTo(record.width1, atoiText(e.ownWidth1) + atoiText(e.ownLow1));
-  shrinkTo(record.low1, atoiText(e.ownLow1));
-  growTo(record.width2, atoiText(e.ownWidth2));
-  shrinkTo(record.low2, atoiText(e.ownLow2));
-}
-
-SubModulePort newRecord(const std::unordered_set<std::string>& bidirOutputs, const std::string& moduleName,
-                        const std::string& port, const CnxConnectionEnd& e) {
-  SubModulePort record;
-  record.moduleName = moduleName;
-  record.portName = port;
-  record.width1 = decimalText(atoiText(e.ownWidth1) + atoiText(e.ownLow1));
-  record.low1 = e.ownLow1;
-  record.width2 = e.ownWidth2;
-  record.low2 = e.ownLow2;
-  record.scalar = e.ownWidth1 == "0" && e.ownLow1 == "0" && e.ownWidth2 == "0" && e.ownLow2 == "0";
-  record.directionWord = e.peerIsSource ? "IN" : "OUT";
-  if (e.peerInstance.empty() && bidirOutputs.count(e.peerPort) != 0) record.directionWord = "INOUT";
-  return record;
+bool allZero(const Shape& shape) {
+  return shape.rows.width.isZero() && shape.rows.low.isZero() && shape.bits.width.isZero() &&
+         shape.bits.low.isZero();
 }
 
 }  // namespace
 
-void HdlFileWriter::buildSubModulePorts() {
-  const std::unordered_set<std::string> bidirOutputs = bidirOutputNames(description_);
-  std::unordered_map<std::string, size_t> recordOf;  // module name + '\0' + port name
-  // Records already in the list are merged into, so that a second call adds nothing twice.
-  for (size_t i = 0; i < subModulePorts.size(); ++i) {
-    recordOf.try_emplace(subModulePorts[i].moduleName + '\0' + subModulePorts[i].portName, i);
+// Every module's instance ports, merged by (module, port); the main module's "@" ports give the bounds of
+// its own ports in the end.
+void NetlistBuilder::buildSubModulePorts() {
+  TextPool& texts = *texts_;
+  std::unordered_set<Name> bidirOutputs;
+  for (const CnxUsedPort& port : description_.outputPorts) {
+    if (port.direction == PortDirection::kBidir) bidirOutputs.insert(port.name);
   }
+  std::vector<SubModulePort>& records = parts_.subModulePorts;
+  std::unordered_map<ModulePortKey, size_t, ModulePortKeyHash> recordOf;
+  const CnxConnectionMap& map = description_.connectionMap;
   for (const CnxModule& module : description_.modules) {
-    const CnxPortMap* ports = description_.connectionMap.find(module.instanceName);
-    if (ports == nullptr) continue;
-    ports->forEach([&](const std::string& port, const CnxEndList& ends) {
-      const std::string key = module.moduleName + '\0' + port;
-      for (const CnxConnectionEnd& e : ends) {
-        if (const auto it = recordOf.find(key); it != recordOf.end()) {
-          mergeEnd(subModulePorts[it->second], e);
-        } else {
-          recordOf.emplace(key, subModulePorts.size());
-          subModulePorts.push_back(newRecord(bidirOutputs, module.moduleName, port, e));
+    const CnxConnectionMap::Instance* instance = map.findInstance(module.instanceName);
+    if (instance == nullptr) continue;
+    for (const CnxConnectionMap::Port& port : map.portsOf(*instance)) {
+      const auto [it, added] =
+          recordOf.try_emplace(ModulePortKey{module.moduleName, port.name}, records.size());
+      for (const CnxConnectionEnd& e : map.endsOf(port)) {
+        if (!added || &e != &map.endsOf(port).front()) {
+          mergeEnd(records[it->second], e, texts);
+          continue;
         }
+        SubModulePort record;
+        record.moduleName = module.moduleName;
+        record.portName = port.name;
+        record.shape = e.own;
+        record.shape.rows.width = Bound::ofNumber(e.own.rows.width.value() + e.own.rows.low.value(), texts);
+        record.scalar = allZero(e.own);
+        record.direction = e.peerIsSource ? SubModuleDirection::kIn : SubModuleDirection::kOut;
+        if (e.peerInstance.empty() && bidirOutputs.count(e.peerPort) != 0)
+          record.direction = SubModuleDirection::kInOut;
+        records.push_back(record);
       }
-    });
+    }
+  }
+  // The first record of the modulon's own module for every port name.
+  const std::string signature = toLowerText(signatureName_);
+  std::unordered_map<Name, size_t> ownPortRecord;
+  for (size_t i = 0; i < records.size(); ++i) {
+    if (toLowerText(records[i].moduleName.view()) == signature)
+      ownPortRecord.try_emplace(records[i].portName, i);
   }
   for (const CnxUsedPort& mainPort : description_.mainModulePorts) {
-    for (SubModulePort& record : subModulePorts) {
-      if (record.portName != mainPort.name || !equalsIgnoringCase(record.moduleName, signatureName_))
-        continue;
-      record.width1 = mainPort.width1;
-      record.low1 = mainPort.low1;
-      record.width2 = mainPort.width2;
-      record.low2 = mainPort.low2;
-      break;
-    }
+    if (const auto it = ownPortRecord.find(mainPort.name); it != ownPortRecord.end())
+      records[it->second].shape = mainPort.shape;
   }
 }
 

@@ -16,8 +16,7 @@ std::string prototypePortList(const std::vector<CnxUsedPort>& ports) {
   std::string separator;
   for (const CnxUsedPort& port : ports) {
     list += formatText("%s\t%s%s%s", separator.c_str(), port.name.c_str(),
-                       thdlGroupRange(port.width1, port.low1).c_str(),
-                       thdlGroupRange(port.width2, port.low2).c_str());
+                       thdlGroupRange(port.shape.rows).c_str(), thdlGroupRange(port.shape.bits).c_str());
     separator = ",\n";
   }
   return list;
@@ -26,14 +25,14 @@ std::string prototypePortList(const std::vector<CnxUsedPort>& ports) {
 // "[]" per dimension whose width reads as at least 1.
 std::string bracketSuffix(const CnxUsedPort& port) {
   std::string suffix;
-  if (atoiText(port.width1) >= 1) suffix += "[]";
-  if (atoiText(port.width2) >= 1) suffix += "[]";
+  if (port.shape.rows.width.value() >= 1) suffix += "[]";
+  if (port.shape.bits.width.value() >= 1) suffix += "[]";
   return suffix;
 }
 
 }  // namespace
 
-std::string ThdlFileWriter::buildCompanionText() {
+std::string ThdlFileWriter::buildCompanionText() const {
   const std::string inputs = prototypePortList(description_.inputPorts) + "\n)\n\n";
   std::string parameterClause;
   if (!description_.parameters.empty()) {
@@ -45,12 +44,12 @@ std::string ThdlFileWriter::buildCompanionText() {
     }
     parameterClause += "\n)\n\n";
   }
-  return formatText("%s\n\nFUNCTION %s \n(\n%s%sRETURNS (\n%s\n);\n", legalNoticeText().c_str(),
-                    fileName_.c_str(), inputs.c_str(), parameterClause.c_str(),
-                    prototypePortList(description_.outputPorts).c_str());
+  return fillTemplate(
+      "%s\n\nFUNCTION %s \n(\n%s%sRETURNS (\n%s\n);\n",
+      {legalNoticeText(), fileName_, inputs, parameterClause, prototypePortList(description_.outputPorts)});
 }
 
-std::string ThdlFileWriter::buildInstanceText() {
+std::string ThdlFileWriter::buildInstanceText() const {
   std::string results;
   std::string returns;
   std::string separator;
@@ -69,8 +68,7 @@ std::string ThdlFileWriter::buildInstanceText() {
     separator = ",\n";
   }
   assignments += "\n)\n";
-  return formatText("(\n%s\n) = %s\t(\n%sRETURNS (\n%s\n);\n", results.c_str(), fileName_.c_str(),
-                    assignments.c_str(), returns.c_str());
+  return fillTemplate("(\n%s\n) = %s\t(\n%sRETURNS (\n%s\n);\n", {results, fileName_, assignments, returns});
 }
 
 }  // namespace plovix

@@ -11,19 +11,20 @@ namespace {
 
 // " = " + default for inputs and bidirectional ports that have one.
 std::string defaultText(const CnxUsedPort& port) {
-  const bool takesDefault = port.direction == "INPUT" || port.direction == "BIDIR";
-  if (!takesDefault || port.defaultValue == "NODEFVAL") return {};
-  return " = " + port.defaultValue;
+  const bool takesDefault =
+      port.direction == PortDirection::kInput || port.direction == PortDirection::kBidir;
+  if (!takesDefault || port.defaultValue.kind == DefaultKind::kNone) return {};
+  return " = " + port.defaultValue.text.str();
 }
 
 std::string portDeclaration(const CnxUsedPort& port) {
-  return formatText("\t%s%s%s\t : %s%s;\n", port.name.c_str(), thdlGroupRange(port.width1, port.low1).c_str(),
-                    thdlGroupRange(port.width2, port.low2).c_str(), port.direction.c_str(),
-                    defaultText(port).c_str());
+  return formatText("\t%s%s%s\t : %s%s;\n", port.name.c_str(), thdlGroupRange(port.shape.rows).c_str(),
+                    thdlGroupRange(port.shape.bits).c_str(),
+                    std::string(directionKeyword(port.direction)).c_str(), defaultText(port).c_str());
 }
 
 // The WITH clause lines of one instance: its parameters passed on by name, then its constants' values.
-std::string instanceParameterLines(const CnxDescription& description, const std::string& instanceName) {
+std::string instanceParameterLines(const CnxDescription& description, Name instanceName) {
   std::string lines;
   std::string separator;
   for (const CnxParameter& parameter : description.parameters) {
@@ -40,27 +41,26 @@ std::string instanceParameterLines(const CnxDescription& description, const std:
   return lines;
 }
 
-std::string equation(const std::string& instance, const std::string& port, const CnxConnectionEnd& end) {
-  const std::string driven = thdlReference(instance, port) + thdlGroupRange(end.ownWidth1, end.ownLow1) +
-                             thdlGroupRange(end.ownWidth2, end.ownLow2);
-  const std::string driver = thdlReference(end.peerInstance, end.peerPort) +
-                             thdlGroupRange(end.peerWidth1, end.peerLow1) +
-                             thdlGroupRange(end.peerWidth2, end.peerLow2);
+std::string equation(Name instance, Name port, const CnxConnectionEnd& end) {
+  const std::string driven =
+      thdlReference(instance, port) + thdlGroupRange(end.own.rows) + thdlGroupRange(end.own.bits);
+  const std::string driver = thdlReference(end.peerInstance, end.peerPort) + thdlGroupRange(end.peer.rows) +
+                             thdlGroupRange(end.peer.bits);
   return formatText("\t%s = %s%s;\n", driven.c_str(), end.peerInverted ? "!" : "", driver.c_str());
 }
 
 }  // namespace
 
-std::string ThdlFileWriter::buildDesignText() {
-  return formatText("%s\n%s\n%s%s%s%s%s%s\n", headerText().c_str(), legalNoticeText().c_str(),
-                    includeStatements().c_str(), "", parameterSection().c_str(), subdesignSection().c_str(),
-                    variableSection().c_str(), logicSection().c_str());
+std::string ThdlFileWriter::buildDesignText() const {
+  return fillTemplate("%s\n%s\n%s%s%s%s%s%s\n",
+                      {headerText(), legalNoticeText(), includeStatements(), "", parameterSection(),
+                       subdesignSection(), variableSection(), logicSection()});
 }
 
 std::string ThdlFileWriter::includeStatements() const {
   std::string text;
-  for (const std::string& name : description_.moduleNames) {
-    text += formatText("INCLUDE \"%s.inc\";\n", toLowerText(name).c_str());
+  for (const Name& name : description_.moduleNames) {
+    text += formatText("INCLUDE \"%s.inc\";\n", toLowerText(name.view()).c_str());
   }
   return text + "\n";
 }
@@ -74,21 +74,21 @@ std::string ThdlFileWriter::parameterSection() const {
                         thdlParameterValue(parameter.type, parameter.value).c_str());
     separator = ",\n";
   }
-  return formatText("\n\nPARAMETERS (\n%s\n);\n\n", lines.c_str());
+  return fillTemplate("\n\nPARAMETERS (\n%s\n);\n\n", {lines});
 }
 
 std::string ThdlFileWriter::subdesignSection() const {
   std::string lines;
   for (const CnxUsedPort& port : description_.inputPorts) lines += portDeclaration(port);
   for (const CnxUsedPort& port : description_.outputPorts) lines += portDeclaration(port);
-  return formatText("\n\nSUBDESIGN %s\n(\n%s)\n\n", fileName_.c_str(), lines.c_str());
+  return fillTemplate("\n\nSUBDESIGN %s\n(\n%s)\n\n", {fileName_, lines});
 }
 
 std::string ThdlFileWriter::variableSection() const {
   std::string text = "VARIABLE\n\n";
   for (const CnxModule& module : description_.modules) {
     text += formatText("\t%s%s : %s WITH (\n%s\n\t\t\t);\n\n", module.instanceName.c_str(), "_component",
-                       toLowerText(module.moduleName).c_str(),
+                       toLowerText(module.moduleName.view()).c_str(),
                        instanceParameterLines(description_, module.instanceName).c_str());
   }
   return text;
@@ -97,14 +97,10 @@ std::string ThdlFileWriter::variableSection() const {
 // One equation per connection, written from its driven end, in the connection map's order.
 std::string ThdlFileWriter::logicSection() const {
   std::string equations;
-  description_.connectionMap.forEach([&equations](const std::string& instance, const CnxPortMap& ports) {
-    ports.forEach([&](const std::string& port, const CnxEndList& ends) {
-      for (const CnxConnectionEnd& end : ends) {
-        if (end.peerIsSource) equations += equation(instance, port, end);
-      }
-    });
+  description_.connectionMap.forEachEnd([&equations](Name instance, Name port, const CnxConnectionEnd& end) {
+    if (end.peerIsSource) equations += equation(instance, port, end);
   });
-  return formatText("BEGIN\n\n%sEND;\n\n\n", equations.c_str());
+  return fillTemplate("BEGIN\n\n%sEND;\n\n\n", {equations});
 }
 
 }  // namespace plovix

@@ -3,33 +3,27 @@
 
 #include <utility>
 
-#include "base/OutputKinds.h"
-#include "base/TextHelpers.h"
-
 namespace plovix {
 
 ThdlFileWriter::ThdlFileWriter(UserInterface& ui, std::string basePath, std::string signatureName,
-                               CnxDescription& description)
+                               const CnxDescription& description)
     : HdlFileWriter(ui, std::move(basePath), std::move(signatureName), description) {
-  const OutputKind& kind = outputKind(OutputLanguage::kThdl);
-  commentLeader_ = std::string(kind.commentLeader);
-  designExtension_ = std::string(kind.designExtension);
-  companionExtension_ = std::string(kind.companionExtension);
+  setOutputKind(OutputLanguage::kThdl);
 }
 
-std::string thdlGroupRange(const std::string& width, const std::string& low) {
-  if (width == "0") return {};
-  return "[" + upperBoundText(width, low) + ".." + low + "]";
+std::string thdlGroupRange(const Range& range) {
+  if (!range.present()) return {};
+  return "[" + range.upperText() + ".." + range.low.text() + "]";
 }
 
-std::string thdlParameterValue(const std::string& type, const std::string& value) {
-  if (type == "NUMERIC") return value;
-  return "\"" + value + "\"";
+std::string thdlParameterValue(ValueType type, Name value) {
+  if (type == ValueType::kNumeric) return value.str();
+  return "\"" + value.str() + "\"";
 }
 
-std::string thdlReference(const std::string& instance, const std::string& port) {
-  if (instance.empty()) return port;
-  return instance + "_component" + "." + port;
+std::string thdlReference(Name instance, Name port) {
+  if (instance.empty()) return port.str();
+  return instance.str() + "_component" + "." + port.str();
 }
 
 }  // namespace plovix

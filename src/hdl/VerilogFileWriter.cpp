@@ -12,59 +12,62 @@
 namespace plovix {
 
 VerilogFileWriter::VerilogFileWriter(UserInterface& ui, std::string basePath, std::string signatureName,
-                                     CnxDescription& description)
-    : HdlFileWriter(ui, std::move(basePath), std::move(signatureName), description) {
-  const OutputKind& kind = outputKind(OutputLanguage::kVerilog);
-  commentLeader_ = std::string(kind.commentLeader);
-  designExtension_ = std::string(kind.designExtension);
-  companionExtension_ = std::string(kind.companionExtension);
+                                     const CnxDescription& description, const Netlist& netlist)
+    : HdlFileWriter(ui, std::move(basePath), std::move(signatureName), description), netlist_(netlist) {
+  setOutputKind(OutputLanguage::kVerilog);
 }
 
-std::string VerilogFileWriter::buildDesignText() {
-  // The wires build the netlist that the instances read.
-  std::string body = wireText();
-  body += instancesText();
-  return formatText("%s\n%s\nmodule %s (\n%s%s%s\n%s\nendmodule\n\n", headerText().c_str(),
-                    legalNoticeText().c_str(), fileName_.c_str(), portListText().c_str(),
-                    portDeclarationText().c_str(), parameterBlockText().c_str(), body.c_str());
+std::string VerilogFileWriter::buildDesignText() const {
+  const VerilogNetlist wires = declareVerilogWires(netlist_, description_, signatureName_);
+  std::string body = wireText(wires);
+  body += instancesText(wires);
+  return fillTemplate("%s\n%s\nmodule %s (\n%s%s%s\n%s\nendmodule\n\n",
+                      {headerText(), legalNoticeText(), fileName_, portListText(), portDeclarationText(),
+                       parameterBlockText(), body});
 }
 
-std::string VerilogFileWriter::buildCompanionText() {
+std::string VerilogFileWriter::buildCompanionText() const {
   return {};
 }
 
-std::string VerilogFileWriter::buildBlackBoxText() {
-  return formatText("%s\nmodule %s (\n%s%s%s\nendmodule\n\n", legalNoticeText().c_str(), fileName_.c_str(),
-                    portListText().c_str(), portDeclarationText().c_str(), parameterBlockText().c_str());
+std::string VerilogFileWriter::buildBlackBoxText() const {
+  return fillTemplate(
+      "%s\nmodule %s (\n%s%s%s\nendmodule\n\n",
+      {legalNoticeText(), fileName_, portListText(), portDeclarationText(), parameterBlockText()});
 }
 
-bool VerilogFileWriter::writeBlackBoxFile() {
+bool VerilogFileWriter::writeBlackBoxFile() const {
   return writeFile(blackBoxPath(), buildBlackBoxText());
 }
 
-std::string verilogDirectionWord(const std::string& direction) {
-  if (direction == "INPUT") return "input";
-  if (direction == "OUTPUT") return "output";
-  if (direction == "BIDIR") return "inout";
-  return direction;
+const char* verilogDirectionWord(PortDirection direction) {
+  switch (direction) {
+    case PortDirection::kInput:
+      return "input";
+    case PortDirection::kOutput:
+      return "output";
+    case PortDirection::kBidir:
+      return "inout";
+  }
+  return "";
 }
 
-std::string verilogParameterValue(const std::string& type, const std::string& value) {
-  if (type == "NUMERIC") return value;
-  return "\"" + replaceAll(value, "\\", "\\\\") + "\"";
+std::string verilogParameterValue(ValueType type, Name value) {
+  if (type == ValueType::kNumeric) return value.str();
+  return "\"" + replaceAll(value.view(), "\\", "\\\\") + "\"";
 }
 
-long long verilogWidthNumber(const std::string& width) {
-  return isIntegerText(width) ? atoiText(width) : 0;
+long long verilogWidthNumber(Bound width) {
+  return width.isInteger() ? width.value() : 0;
 }
 
-std::string verilogConstantValue(const std::string& drivingPort, const std::string& width) {
-  const int bits = width == "0" ? 1 : static_cast<int32_t>(verilogWidthNumber(width));
+std::string verilogConstantValue(Name drivingPort, Bound width) {
+  const int bits = width.isZero() ? 1 : static_cast<int32_t>(verilogWidthNumber(width));
   if (drivingPort == "VCC") return formatText("%d'H1", bits);
   if (drivingPort == "GND") return formatText("%d'H0", bits);
   // A width no device has (over a million bits) would only make a literal of millions of padding digits.
   constexpr int kLongestLiteral = 1 << 20;
-  return formatText("%d'H%s", bits, hexLiteral(drivingPort, std::min(bits, kLongestLiteral)).c_str());
+  return formatText("%d'H%s", bits, hexLiteral(drivingPort.view(), std::min(bits, kLongestLiteral)).c_str());
 }
 
 }  // namespace plovix

@@ -4,41 +4,47 @@
 #include <string>
 
 #include "hdl/HdlFileWriter.h"
+#include "hdl/Netlist.h"
+#include "hdl/VerilogNetlist.h"
 
 namespace plovix {
 
 class VerilogFileWriter : public HdlFileWriter {
  public:
+  // The writer reads `netlist` (built from `description` for `signatureName`), which must outlive it.
   VerilogFileWriter(UserInterface& ui, std::string basePath, std::string signatureName,
-                    CnxDescription& description);
+                    const CnxDescription& description, const Netlist& netlist);
 
-  std::string buildDesignText() override;
+  std::string buildDesignText() const override;
   // Verilog has no companion file; the text is empty.
-  std::string buildCompanionText() override;
-  std::string buildInstanceText() override;
+  std::string buildCompanionText() const override;
+  std::string buildInstanceText() const override;
 
   // basePath + "_bb" + designExtension: the module's ports and parameters with an empty body.
-  bool writeBlackBoxFile();
+  bool writeBlackBoxFile() const;
   std::string blackBoxPath() const { return basePath_ + "_bb" + designExtension_; }
-  std::string buildBlackBoxText();
+  std::string buildBlackBoxText() const;
 
- private:
+  // The sections. The body's sections read the netlist as its wires are declared (declareVerilogWires).
   // The module's port names, then its port declarations.
   std::string portListText() const;
   std::string portDeclarationText() const;
   // The module's own parameters; empty when it has none.
   std::string parameterBlockText() const;
-  // The internal wires with their values, then the wires of the variation's outputs. Builds the netlist.
-  std::string wireText();
+  // The internal wires with their values, then the wires of the variation's outputs.
+  std::string wireText(const VerilogNetlist& wires) const;
   // One instance of every sub-module with its port connections and parameter settings.
-  std::string instancesText() const;
+  std::string instancesText(const VerilogNetlist& wires) const;
+
+ private:
+  const Netlist& netlist_;
 };
 
 // Text rules the Verilog sections share.
-std::string verilogDirectionWord(const std::string& direction);
-std::string verilogParameterValue(const std::string& type, const std::string& value);
-std::string verilogConstantValue(const std::string& drivingPort, const std::string& width);
+const char* verilogDirectionWord(PortDirection direction);
+std::string verilogParameterValue(ValueType type, Name value);
+std::string verilogConstantValue(Name drivingPort, Bound width);
 // A width as an integer; a width that is not a decimal number counts as 0.
-long long verilogWidthNumber(const std::string& width);
+long long verilogWidthNumber(Bound width);
 
 }  // namespace plovix

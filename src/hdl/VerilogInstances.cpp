@@ -15,13 +15,14 @@ namespace {
 
 // The netlist grouped by instance once, so that each instance does not scan every connection and wire.
 struct InstanceIndex {
-  std::unordered_map<std::string, std::vector<const NetlistConnection*>> connectionsOf;  // by ownInstance
-  std::unordered_map<std::string, std::vector<const NetlistWire*>> wiresOf;  // by sourceText up to its "."
+  std::unordered_map<Name, std::vector<const NetlistConnection*>> connectionsOf;  // by ownInstance
+  std::unordered_map<std::string_view, std::vector<const NetlistWire*>> wiresOf;  // by sourceText up to "."
 
   InstanceIndex(const std::vector<NetlistConnection>& connections, const std::vector<NetlistWire>& wires) {
     for (const NetlistConnection& c : connections) connectionsOf[c.ownInstance].push_back(&c);
     for (const NetlistWire& w : wires) {
-      if (!w.isInverted) wiresOf[w.sourceText.substr(0, w.sourceText.find('.'))].push_back(&w);
+      const std::string_view source = w.sourceText.view();
+      if (!w.isInverted) wiresOf[source.substr(0, source.find('.'))].push_back(&w);
     }
   }
 };
@@ -31,7 +32,8 @@ std::string connectionItems(const std::vector<const NetlistConnection*>* list) {
   std::string items;
   if (list == nullptr) return items;
   const char* separator = "";
-  std::string port, rightHand;
+  Name port;
+  std::string rightHand;
   int members = 0;
   auto close = [&] {
     if (members == 0) return;
@@ -48,7 +50,8 @@ std::string connectionItems(const std::vector<const NetlistConnection*>* list) {
       port = c->ownPort;
       rightHand.clear();
     }
-    rightHand += (members++ == 0 ? "" : ", ") + c->peerName;
+    rightHand += members++ == 0 ? "" : ", ";
+    rightHand += c->peerName.view();
   }
   close();
   return items;
@@ -61,8 +64,8 @@ std::string wireItems(const std::vector<const NetlistWire*>* list) {
   std::unordered_set<std::string> written;
   const char* separator = "";
   for (const NetlistWire* wire : *list) {
-    const std::string port = toLowerText(wire->drivingPort);
-    const std::string name = toLowerText(wire->name);
+    const std::string port = toLowerText(wire->drivingPort.view());
+    const std::string name = toLowerText(wire->name.view());
     const std::string item = "." + port + " (" + name + ")";
     // Port names with these characters could match inside another item; only the text itself can tell.
     const bool mayOverlap = port.find_first_of(". ()") != std::string::npos;
@@ -74,16 +77,16 @@ std::string wireItems(const std::vector<const NetlistWire*>* list) {
   return items;
 }
 
-std::string defparamLines(const CnxDescription& description, const std::string& instance) {
+std::string defparamLines(const CnxDescription& description, Name instance) {
   std::string lines;
   const char* separator = "";
-  auto add = [&](const std::string& name, const std::string& value) {
-    lines += formatText("%s\t\t%s_component.%s = %s", separator, instance.c_str(), toLowerText(name).c_str(),
-                        value.c_str());
+  auto add = [&](Name name, const std::string& value) {
+    lines += formatText("%s\t\t%s_component.%s = %s", separator, instance.c_str(),
+                        toLowerText(name.view()).c_str(), value.c_str());
     separator = ",\n";
   };
   for (const CnxParameter& p : description.parameters) {
-    if (p.target == instance || p.target.empty()) add(p.name, toLowerText(p.name));
+    if (p.target == instance || p.target.empty()) add(p.name, toLowerText(p.name.view()));
   }
   for (const CnxConstant& k : description.constants) {
     if (k.target == instance || k.target.empty()) add(k.name, verilogParameterValue(k.type, k.value));
@@ -91,26 +94,27 @@ std::string defparamLines(const CnxDescription& description, const std::string& 
   return lines;
 }
 
-template <class Map>
-const typename Map::mapped_type* findIn(const Map& map, const std::string& key) {
+template <class Map, class Key>
+const typename Map::mapped_type* findIn(const Map& map, const Key& key) {
   const auto it = map.find(key);
   return it == map.end() ? nullptr : &it->second;
 }
 
 }  // namespace
 
-std::string VerilogFileWriter::instancesText() const {
-  const InstanceIndex index(connections, wires);
+std::string VerilogFileWriter::instancesText(const VerilogNetlist& declaration) const {
+  const InstanceIndex index(declaration.netlist.connections(), declaration.netlist.wires());
   std::string text;
   for (const CnxModule& module : description_.modules) {
-    const std::string& instance = module.instanceName;
+    const Name instance = module.instanceName;
     if (instance.empty()) continue;
     const std::string fromConnections = connectionItems(findIn(index.connectionsOf, instance));
-    const std::string fromWires = wireItems(findIn(index.wiresOf, instance + "_component"));
+    const std::string label = instance.str() + "_component";
+    const std::string fromWires = wireItems(findIn(index.wiresOf, std::string_view(label)));
     const char* joint = !fromConnections.empty() && !fromWires.empty() ? ",\n" : "";
     const std::string ports = fromConnections + joint + fromWires;
-    text += formatText("\n\t%s\t%s_component (\n%s);\n", toLowerText(module.moduleName).c_str(),
-                       instance.c_str(), ports.c_str());
+    text += fillTemplate("\n\t%s\t%s_component (\n%s);\n",
+                         {toLowerText(module.moduleName.view()), instance.view(), ports});
     const std::string lines = defparamLines(description_, instance);
     if (!lines.empty()) text += "\tdefparam\n" + lines + ";\n\n";
   }

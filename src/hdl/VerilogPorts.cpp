@@ -21,7 +21,7 @@ std::string VerilogFileWriter::portListText() const {
   std::string text;
   const char* separator = "";
   forEachPort(description_, [&](const CnxUsedPort& port) {
-    text += formatText("%s\t%s", separator, toLowerText(port.name).c_str());
+    text += formatText("%s\t%s", separator, toLowerText(port.name.view()).c_str());
     separator = ",\n";
   });
   return text + ");\n\n";
@@ -30,9 +30,9 @@ std::string VerilogFileWriter::portListText() const {
 std::string VerilogFileWriter::portDeclarationText() const {
   std::string text;
   forEachPort(description_, [&](const CnxUsedPort& port) {
-    text += formatText("\t%s\t%s%s  %s%s;\n", verilogDirectionWord(port.direction).c_str(),
-                       rangeText(port.width1, port.low1).c_str(), rangeText(port.width2, port.low2).c_str(),
-                       toLowerText(port.name).c_str(), "");
+    text += formatText("\t%s\t%s%s  %s%s;\n", verilogDirectionWord(port.direction),
+                       rangeText(port.shape.rows).c_str(), rangeText(port.shape.bits).c_str(),
+                       toLowerText(port.name.view()).c_str(), "");
   });
   return text;
 }
@@ -49,11 +49,11 @@ std::string VerilogFileWriter::parameterBlockText() const {
   return text + ";\n\n";
 }
 
-std::string VerilogFileWriter::buildInstanceText() {
+std::string VerilogFileWriter::buildInstanceText() const {
   std::string items;
   const char* separator = "";
   forEachPort(description_, [&](const CnxUsedPort& port) {
-    const std::string name = toLowerText(port.name);
+    const std::string name = toLowerText(port.name.view());
     items += formatText("%s\t.%s ( %s_sig )", separator, name.c_str(), name.c_str());
     separator = ",\n";
   });

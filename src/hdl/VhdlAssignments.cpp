@@ -43,50 +43,53 @@ class AssignmentText {
 // Bit strings longer than this are cut to it; no device has vectors anywhere near as wide.
 constexpr long long kMaxBitStringLength = 1 << 20;
 
-int bitStringLength(const std::string& width) {
+int bitStringLength(Bound width) {
   return static_cast<int>(std::clamp(vhdlIntegerOf(width), 0LL, kMaxBitStringLength));
 }
 
-std::string assignmentLine(const std::string& target, const std::string& value) {
-  return formatText("\t%s    <= %s;\n", target.c_str(), value.c_str());
+std::string assignmentLine(std::string_view target, std::string_view value) {
+  return formatText("\t%s    <= %s;\n", std::string(target).c_str(), std::string(value).c_str());
 }
 
 // Constant wires take their value; a vector constant goes through its bit-vector twin, and VCC is the
 // inverse of all zeros. Inverting wires take the inverse of their driving port.
 void appendWireAssignments(const std::vector<NetlistWire>& wires, AssignmentText& out) {
   for (const NetlistWire& wire : wires) {
-    if (wire.isConstant && wire.width1 == "0" && wire.width2 == "0") {
-      std::string value = wire.drivingPort;
+    const Shape shape = shapeOf(wire);
+    if (wire.isConstant && shape.isSingleBit()) {
+      std::string value = wire.drivingPort.str();
       if (value == "VCC") {
         value = "'1'";
       } else if (value == "GND") {
         value = "'0'";
       }
-      out.append(assignmentLine(wire.name, value));
+      out.append(assignmentLine(wire.name.view(), value));
     } else if (wire.isConstant) {
       const bool vcc = wire.drivingPort == "VCC";
-      const std::string value = vcc ? "GND" : wire.drivingPort;
+      const std::string value = vcc ? "GND" : wire.drivingPort.str();
       std::string bits;
-      if (wire.width2 == "0") {
+      if (!shape.bits.present()) {
         bits = value == "GND" ? "'0'" : value;
       } else if (value == "GND") {
-        bits =
-            formatText("\"%s\"", std::string(static_cast<size_t>(bitStringLength(wire.width2)), '0').c_str());
+        bits = formatText("\"%s\"",
+                          std::string(static_cast<size_t>(bitStringLength(wire.bitsWidth)), '0').c_str());
       } else {
-        bits = formatText("\"%s\"", binaryLiteral(value, bitStringLength(wire.width2)).c_str());
+        bits = formatText("\"%s\"", binaryLiteral(value, bitStringLength(wire.bitsWidth)).c_str());
       }
-      out.append(formatText("\t%s_bv%s <= %s;\n", wire.name.c_str(),
-                            vhdlRangeText(wire.width1, "0", wire.width2, "0").c_str(), bits.c_str()));
+      out.append(
+          formatText("\t%s_bv%s <= %s;\n", wire.name.c_str(), vhdlRangeText(shape).c_str(), bits.c_str()));
       out.append(formatText("\t%s    <= %s%sTo_stdlogicvector(%s_bv)%s;\n", wire.name.c_str(),
                             vcc ? "NOT" : "", vcc ? "(" : "", wire.name.c_str(), vcc ? ")" : ""));
     } else if (wire.isInverted) {
-      out.append(assignmentLine(wire.name, "NOT(" + wire.drivingPort + ")"));
+      out.append(assignmentLine(wire.name.view(), "NOT(" + wire.drivingPort.str() + ")"));
     }
   }
 }
 
-// Consecutive connections with the same target are joined with " & " into one assignment. The sentinel at
-// the end of the list opens an empty target and so flushes the last group.
+// Consecutive connections with the same target are joined with " & " into one assignment; a group is
+// written when the next one opens. The last group is written at the end unless its target is empty (a
+// variation port without a name, possible only for a "@" reference before the first MODULE: line), which
+// has always been left out.
 class GroupedAssignments {
  public:
   GroupedAssignments(const std::vector<NetlistWire>& wires, AssignmentText& out) : out_(out) {
@@ -96,28 +99,33 @@ class GroupedAssignments {
   }
 
   void add(const NetlistConnection& c) {
-    if (c.ownInstance.empty() && c.conversionRole == kConversionNone) {
-      open(c.ownPort);
-      if (c.peerWidth2 == "0" && c.ownWidth2 != "0") target_ += "(" + c.ownLow2 + ")";
-      if (c.peerWidth2 != "0" && c.ownWidth2 == "0") {
-        right_ += separator_ + c.peerName + "(" + c.peerLow2 + ")";
+    const bool variationPort = c.ownInstance.empty();
+    if (variationPort && c.role == ConversionRole::kNone) {
+      open(c.ownPort.view());
+      if (!c.peer.bits.present() && c.own.bits.present()) appendLow(target_, c.own.bits.low);
+      right_ += separator_;
+      right_ += c.peerName.view();
+      if (c.peer.bits.present() && !c.own.bits.present()) {
+        appendLow(right_, c.peer.bits.low);
       } else {
-        right_ += separator_ + c.peerName + vhdlRangeText(c.peerWidth1, c.peerLow1, c.peerWidth2, c.peerLow2);
+        right_ += vhdlRangeText(c.peer);
       }
-    } else if (c.ownInstance.empty() && c.conversionRole == kConversionFlatSide) {
-      open(c.peerName);
-      right_ += separator_ + c.ownPort;
-    } else if (!c.ownInstance.empty()) {
+    } else if (variationPort && c.role == ConversionRole::kFlatSide) {
+      open(c.peerName.view());
+      right_ += separator_;
+      right_ += c.ownPort.view();
+    } else if (!variationPort) {
       const bool constantPeer = constantWires_.count(c.peerName) != 0;
-      const bool oneSideFlat = (c.ownWidth2 == "0") != (c.peerWidth2 == "0");
+      const bool oneSideFlat = c.own.bits.present() != c.peer.bits.present();
       if (oneSideFlat && !constantPeer) {
-        if (c.conversionRole != kConversionNone) return;
+        if (c.role != ConversionRole::kNone) return;
         addBitSelection(c);
       } else {
-        if (c.ownWidth1 != "0" || c.peerWidth1 == "0" || c.conversionRole != kConversionNone) return;
-        open(c.peerName);
-        target_ += vhdlRangeText(c.ownWidth1, "0", c.ownWidth2, "0");
-        right_ += separator_ + c.ownPort;
+        if (c.own.rows.present() || !c.peer.rows.present() || c.role != ConversionRole::kNone) return;
+        open(c.peerName.view());
+        target_ += vhdlRangeText(wireRanges(c.own));
+        right_ += separator_;
+        right_ += c.ownPort.view();
       }
     } else {
       return;
@@ -125,24 +133,38 @@ class GroupedAssignments {
     previous_ = target_;
   }
 
- private:
-  void addBitSelection(const NetlistConnection& c) {
-    open(c.peerName);
-    const bool peerBit = c.peerWidth2 == "0" && c.peerWidth1 == "0";
-    const bool ownBit = c.ownWidth2 == "0" && c.ownWidth1 == "0";
-    if (peerBit && !ownBit) {
-      if (c.ownWidth2 != "0") {
-        target_ += "(" + c.ownLow2 + ")";
-      } else if (c.ownWidth1 != "0") {
-        target_ += "(" + c.ownLow1 + ")";
-      }
-    } else {
-      target_ += vhdlRangeText(c.ownWidth1, "0", c.ownWidth2, "0");
-    }
-    right_ += separator_ + c.ownPort;
+  void finish() {
+    if (!previous_.empty()) flush();
   }
 
-  void open(const std::string& target) {
+ private:
+  static void appendLow(std::string& text, Bound low) {
+    text += '(';
+    low.appendTo(text);
+    text += ')';
+  }
+
+  // The widths of a shape with both low indices 0.
+  static Shape wireRanges(const Shape& shape) {
+    return Shape{{shape.rows.width, Bound()}, {shape.bits.width, Bound()}};
+  }
+
+  void addBitSelection(const NetlistConnection& c) {
+    open(c.peerName.view());
+    if (c.peer.isSingleBit() && !c.own.isSingleBit()) {
+      if (c.own.bits.present()) {
+        appendLow(target_, c.own.bits.low);
+      } else if (c.own.rows.present()) {
+        appendLow(target_, c.own.rows.low);
+      }
+    } else {
+      target_ += vhdlRangeText(wireRanges(c.own));
+    }
+    right_ += separator_;
+    right_ += c.ownPort.view();
+  }
+
+  void open(std::string_view target) {
     if (target != previous_) {
       flush();
       separator_.clear();
@@ -160,26 +182,28 @@ class GroupedAssignments {
   }
 
   AssignmentText& out_;
-  std::unordered_set<std::string> constantWires_;
+  std::unordered_set<Name> constantWires_;
   std::string target_, previous_, right_, separator_;
 };
 
 }  // namespace
 
-std::string VhdlFileWriter::concurrentAssignmentsText() const {
+std::string VhdlFileWriter::concurrentAssignmentsText(const VhdlNetlist& signals) const {
+  const Netlist& netlist = signals.netlist;
   AssignmentText out;
-  appendWireAssignments(wires, out);
-  GroupedAssignments grouped(wires, out);
-  for (const NetlistConnection& connection : connections) grouped.add(connection);
+  appendWireAssignments(netlist.wires(), out);
+  GroupedAssignments grouped(netlist.wires(), out);
+  for (const NetlistConnection& connection : netlist.connections()) grouped.add(connection);
+  grouped.finish();
 
   std::string text = out.text();
-  for (const VhdlConversion& conversion : conversions)
-    text += assignmentLine(conversion.name, conversion.sourceText);
-  if (netlistFlag != 0) {
-    std::string rowSide, flatSide;
-    for (const NetlistConnection& connection : connections) {
-      if (connection.conversionRole == kConversionRowSide) rowSide = connection.peerName;
-      if (connection.conversionRole == kConversionFlatSide) flatSide = connection.peerName;
+  for (const NetlistConversion& conversion : signals.conversions)
+    text += assignmentLine(conversion.name.view(), conversion.joinedText);
+  if (netlist.packsRows()) {
+    Name rowSide, flatSide;
+    for (const NetlistConnection& connection : netlist.connections()) {
+      if (connection.role == ConversionRole::kRowSide) rowSide = connection.peerName;
+      if (connection.role == ConversionRole::kFlatSide) flatSide = connection.peerName;
     }
     text += formatText("\n\tconv_2_2d(signal_out => %s, signal_in => %s);\n\n", rowSide.c_str(),
                        flatSide.c_str());

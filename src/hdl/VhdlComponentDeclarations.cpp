@@ -15,13 +15,13 @@ namespace {
 
 // The generic lines of a component: constants (names in lower case) and parameters that belong to the
 // instance or to every instance.
-std::string componentGenericText(const CnxDescription& description, const std::string& instance) {
+std::string componentGenericText(const CnxDescription& description, Name instance) {
   std::string text;
   const char* prefix = "\tGENERIC (\n";
   for (const CnxConstant& constant : description.constants) {
     if (constant.target != instance && !constant.target.empty()) continue;
-    text += formatText("%s\t\t%s\t\t: %s", prefix, toLowerText(constant.name).c_str(),
-                       vhdlGenericType(constant).c_str());
+    text += formatText("%s\t\t%s\t\t: %s", prefix, toLowerText(constant.name.view()).c_str(),
+                       vhdlGenericType(constant));
     prefix = ";\n";
   }
   for (const CnxParameter& parameter : description.parameters) {
@@ -35,14 +35,14 @@ std::string componentGenericText(const CnxDescription& description, const std::s
 
 }  // namespace
 
-// A filled list of sub-module ports is complete: building it again would merge the same ends once more.
-std::string VhdlFileWriter::componentDeclarationsText() {
-  if (subModulePorts.empty()) buildSubModulePorts();
-  std::unordered_map<std::string, std::vector<size_t>> portsByModule;
+// One declaration per distinct module, with the generics of its first instance.
+std::string VhdlFileWriter::componentDeclarationsText() const {
+  const std::vector<SubModulePort>& subModulePorts = netlist_.subModulePorts();
+  std::unordered_map<Name, std::vector<size_t>> portsByModule;
   for (size_t i = 0; i < subModulePorts.size(); ++i) portsByModule[subModulePorts[i].moduleName].push_back(i);
 
   std::string text;
-  std::unordered_set<std::string> declared;
+  std::unordered_set<Name> declared;
   for (const CnxModule& module : description_.modules) {
     if (!declared.insert(module.moduleName).second) continue;
     std::string portLines;
@@ -51,9 +51,8 @@ std::string VhdlFileWriter::componentDeclarationsText() {
       const char* separator = "";
       for (size_t i : ports->second) {
         const SubModulePort& port = subModulePorts[i];
-        portLines +=
-            formatText("%s\t\t\t%s\t: %s %s", separator, port.portName.c_str(), port.directionWord.c_str(),
-                       vhdlTypeText(port.width1, port.low1, port.width2, port.low2).c_str());
+        portLines += formatText("%s\t\t\t%s\t: %s %s", separator, port.portName.c_str(),
+                                subModuleDirectionWord(port.direction), vhdlTypeText(port.shape).c_str());
         separator = ";\n";
       }
     }

@@ -11,10 +11,9 @@ std::string VhdlFileWriter::portListText() const {
   const char* separator = "";
   for (const auto* ports : {&description_.inputPorts, &description_.outputPorts}) {
     for (const CnxUsedPort& port : *ports) {
-      text += formatText("%s\t\t%s\t\t: %s %s%s", separator, port.name.c_str(),
-                         vhdlDirectionWord(port.direction).c_str(),
-                         vhdlTypeText(port.width1, port.low1, port.width2, port.low2).c_str(),
-                         vhdlDefaultText(port).c_str());
+      text +=
+          formatText("%s\t\t%s\t\t: %s %s%s", separator, port.name.c_str(), vhdlDirectionWord(port.direction),
+                     vhdlTypeText(port.shape).c_str(), vhdlDefaultText(port).c_str());
       separator = ";\n";
     }
   }
@@ -22,8 +21,8 @@ std::string VhdlFileWriter::portListText() const {
 }
 
 std::string VhdlFileWriter::entityText() const {
-  return formatText("\nENTITY %s IS\n\tPORT\n\t(\n%s\n\t);\nEND %s;\n\n\n", fileName_.c_str(),
-                    portListText().c_str(), fileName_.c_str());
+  return fillTemplate("\nENTITY %s IS\n\tPORT\n\t(\n%s\n\t);\nEND %s;\n\n\n",
+                      {fileName_, portListText(), fileName_});
 }
 
 }  // namespace plovix

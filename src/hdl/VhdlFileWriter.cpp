@@ -4,46 +4,29 @@
 #include <utility>
 
 #include "base/Format.h"
-#include "base/OutputKinds.h"
 
 namespace plovix {
 
 VhdlFileWriter::VhdlFileWriter(UserInterface& ui, std::string basePath, std::string signatureName,
-                               CnxDescription& description)
-    : HdlFileWriter(ui, std::move(basePath), std::move(signatureName), description) {
-  const OutputKind& kind = outputKind(OutputLanguage::kVhdl);
-  commentLeader_ = std::string(kind.commentLeader);
-  designExtension_ = std::string(kind.designExtension);
-  companionExtension_ = std::string(kind.companionExtension);
+                               const CnxDescription& description, const Netlist& netlist)
+    : HdlFileWriter(ui, std::move(basePath), std::move(signatureName), description), netlist_(netlist) {
+  setOutputKind(OutputLanguage::kVhdl);
 }
 
-std::string VhdlFileWriter::buildDesignText() {
-  // The netlist is built afresh, so that a second call gives the same text as the first.
-  netlistFlag = 0;
-  wires.clear();
-  connections.clear();
-  subModulePorts.clear();
-  conversions.clear();
-  wireCounter = 0;
-
-  const std::string libraries = libraryClausesText();
-  const std::string entity = entityText();
-  const std::string signals = signalDeclarationsText();
-  const std::string components = componentDeclarationsText();
-  const std::string assignments = concurrentAssignmentsText();
-  const std::string instances = instancesText();
-  return formatText("%s\n%s\n%s%sARCHITECTURE SYN OF %s IS\n\n%s\n%sBEGIN\n%s\n%sEND SYN;\n\n",
-                    headerText().c_str(), legalNoticeText().c_str(), libraries.c_str(), entity.c_str(),
-                    fileName_.c_str(), signals.c_str(), components.c_str(), assignments.c_str(),
-                    instances.c_str());
+std::string VhdlFileWriter::buildDesignText() const {
+  const VhdlNetlist signals = declareVhdlSignals(netlist_, description_, signatureName_);
+  return fillTemplate("%s\n%s\n%s%sARCHITECTURE SYN OF %s IS\n\n%s\n%sBEGIN\n%s\n%sEND SYN;\n\n",
+                      {headerText(), legalNoticeText(), libraryClausesText(), entityText(), fileName_,
+                       signalDeclarationsText(signals), componentDeclarationsText(),
+                       concurrentAssignmentsText(signals), instancesText(signals)});
 }
 
-std::string VhdlFileWriter::buildCompanionText() {
-  return formatText("%s\n\ncomponent %s\n\tPORT\n\t(\n%s\n\t);\nend component;\n", legalNoticeText().c_str(),
-                    fileName_.c_str(), portListText().c_str());
+std::string VhdlFileWriter::buildCompanionText() const {
+  return fillTemplate("%s\n\ncomponent %s\n\tPORT\n\t(\n%s\n\t);\nend component;\n",
+                      {legalNoticeText(), fileName_, portListText()});
 }
 
-std::string VhdlFileWriter::buildInstanceText() {
+std::string VhdlFileWriter::buildInstanceText() const {
   std::string lines;
   const char* prefix = "";
   for (const auto* ports : {&description_.inputPorts, &description_.outputPorts}) {
@@ -52,8 +35,7 @@ std::string VhdlFileWriter::buildInstanceText() {
       prefix = ",\n";
     }
   }
-  return formatText("%s_inst : %s PORT MAP(\n%s\n\t);\n", fileName_.c_str(), fileName_.c_str(),
-                    lines.c_str());
+  return fillTemplate("%s_inst : %s PORT MAP(\n%s\n\t);\n", {fileName_, fileName_, lines});
 }
 
 }  // namespace plovix

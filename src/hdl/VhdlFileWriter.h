@@ -2,52 +2,43 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "hdl/HdlFileWriter.h"
+#include "hdl/Netlist.h"
+#include "hdl/VhdlNetlist.h"
 
 namespace plovix {
 
-// A conversion signal: one sub-module port fed by several connections, joined with " & " into one signal.
-// It uses the wire fields: `sourceText` the joined text, `name` a fresh "sub_wire%d" name, `sourceKey`
-// instance + "." + port, `drivingPort` the port, `width1`/`width2` the summed widths, both flags false.
-using VhdlConversion = NetlistWire;
-
 class VhdlFileWriter : public HdlFileWriter {
  public:
+  // The writer reads `netlist` (built from `description` for `signatureName`), which must outlive it.
   VhdlFileWriter(UserInterface& ui, std::string basePath, std::string signatureName,
-                 CnxDescription& description);
+                 const CnxDescription& description, const Netlist& netlist);
 
-  // Header, legal notice, library clauses, entity and the architecture SYN. Builds the netlist first.
-  std::string buildDesignText() override;
+  // Header, legal notice, library clauses, entity and the architecture SYN.
+  std::string buildDesignText() const override;
   // The component declaration file: legal notice and the variation as a component.
-  std::string buildCompanionText() override;
+  std::string buildCompanionText() const override;
   // An instance of the variation that maps every port to a signal named port + "_sig".
-  std::string buildInstanceText() override;
+  std::string buildInstanceText() const override;
 
-  // The sections of the design text. The signal declarations build the netlist and the conversion records
-  // that the later sections read, so they are called in the order they are declared here.
+  // The sections of the design text. The architecture's sections read the netlist as its signals are
+  // declared (declareVhdlSignals).
   std::string libraryClausesText() const;
   std::string entityText() const;
   // The entity's port lines, joined by ";\n"; the component declaration file repeats them.
   std::string portListText() const;
-  std::string signalDeclarationsText();
-  std::string componentDeclarationsText();
-  // Fills `conversions` from the connections of every instance.
-  void buildConversions();
-  // The four sections of concurrent assignments.
-  std::string concurrentAssignmentsText() const;
-  std::string instancesText() const;
+  std::string signalDeclarationsText(const VhdlNetlist& signals) const;
   // The type declaration and the procedure that unpack a flat vector into a two-dimensional signal, sized
   // by the last two-dimensional wire.
   std::string twoDimensionalProcedureText() const;
-
-  // Conversion signals, drawn from the same counter as the wires.
-  std::vector<VhdlConversion> conversions;
+  std::string componentDeclarationsText() const;
+  // The four sections of concurrent assignments.
+  std::string concurrentAssignmentsText(const VhdlNetlist& signals) const;
+  std::string instancesText(const VhdlNetlist& signals) const;
 
  private:
-  // Wire declarations; merges wires that widen to the same main-module port.
-  std::string wireDeclarationsText();
+  const Netlist& netlist_;
 };
 
 }  // namespace plovix

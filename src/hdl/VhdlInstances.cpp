@@ -13,7 +13,7 @@ namespace plovix {
 namespace {
 
 // The constants that belong to the instance or to every instance; empty when there are no constants at all.
-std::string genericMapText(const CnxDescription& description, const std::string& instance) {
+std::string genericMapText(const CnxDescription& description, Name instance) {
   if (description.constants.empty()) return {};
   std::string lines;
   const char* prefix = "";
@@ -27,24 +27,24 @@ std::string genericMapText(const CnxDescription& description, const std::string&
 
 // Where the port map entries of every instance come from, gathered once for all instances.
 struct PortMapSources {
-  std::unordered_map<std::string, std::vector<size_t>> connectionsByInstance;
-  std::unordered_map<std::string, std::string> conversionByKey;       // the first conversion of a key
-  std::unordered_map<std::string, std::vector<size_t>> wiresByLabel;  // not inverted, by text before "."
+  std::unordered_map<Name, std::vector<size_t>> connectionsByInstance;
+  std::unordered_map<std::string, Name> conversionByKey;                   // the first conversion of a key
+  std::unordered_map<std::string_view, std::vector<size_t>> wiresByLabel;  // not inverted, by text before "."
 };
 
-PortMapSources gatherSources(const std::vector<NetlistConnection>& connections,
-                             const std::vector<VhdlConversion>& conversions,
-                             const std::vector<NetlistWire>& wires) {
+PortMapSources gatherSources(const VhdlNetlist& signals) {
+  const std::vector<NetlistConnection>& connections = signals.netlist.connections();
+  const std::vector<NetlistWire>& wires = signals.netlist.wires();
   PortMapSources sources;
   for (size_t i = 0; i < connections.size(); ++i) {
     sources.connectionsByInstance[connections[i].ownInstance].push_back(i);
   }
-  for (const VhdlConversion& conversion : conversions) {
-    sources.conversionByKey.emplace(conversion.sourceKey, conversion.name);
+  for (const NetlistConversion& conversion : signals.conversions) {
+    sources.conversionByKey.emplace(conversion.key, conversion.name);
   }
   for (size_t i = 0; i < wires.size(); ++i) {
     if (wires[i].isInverted) continue;
-    const std::string& source = wires[i].sourceText;
+    const std::string_view source = wires[i].sourceText.view();
     sources.wiresByLabel[source.substr(0, source.find('.'))].push_back(i);
   }
   return sources;
@@ -52,25 +52,32 @@ PortMapSources gatherSources(const std::vector<NetlistConnection>& connections,
 
 }  // namespace
 
-std::string VhdlFileWriter::instancesText() const {
-  const PortMapSources sources = gatherSources(connections, conversions, wires);
+std::string VhdlFileWriter::instancesText(const VhdlNetlist& signals) const {
+  const std::vector<NetlistConnection>& connections = signals.netlist.connections();
+  const std::vector<NetlistWire>& wires = signals.netlist.wires();
+  const PortMapSources sources = gatherSources(signals);
   std::string text;
   for (const CnxModule& module : description_.modules) {
-    const std::string& instance = module.instanceName;
+    const Name instance = module.instanceName;
     std::string entries;
     const char* prefix = "";
-    auto addEntry = [&](const std::string& port, const std::string& signal) {
-      entries += formatText("%s\t\t%s => %s", prefix, port.c_str(), signal.c_str());
+    auto addEntry = [&](std::string_view port, std::string_view signal) {
+      entries += formatText("%s\t\t%s => %s", prefix, std::string(port).c_str(), std::string(signal).c_str());
       prefix = ",\n";
     };
 
     // Connections: consecutive connections of one port are joined with " & ", or replaced by the port's
     // conversion signal.
-    std::string port, right, separator;
+    Name port;
+    std::string right, separator;
     auto close = [&] {
       if (right.empty()) return;
-      const auto conversion = sources.conversionByKey.find(instance + "." + port);
-      addEntry(port, conversion != sources.conversionByKey.end() ? conversion->second : right);
+      const auto conversion = sources.conversionByKey.find(instance.str() + "." + port.str());
+      if (conversion != sources.conversionByKey.end()) {
+        addEntry(port.view(), conversion->second.view());
+      } else {
+        addEntry(port.view(), right);
+      }
     };
     const auto taken = sources.connectionsByInstance.find(instance);
     if (taken != sources.connectionsByInstance.end()) {
@@ -86,28 +93,31 @@ std::string VhdlFileWriter::instancesText() const {
           separator = " & ";
         }
         first = false;
-        right += separator + c.peerName;
-        if (c.peerWidth2 != "0" && c.ownWidth2 == "0" && c.conversionRole == kConversionNone) {
-          right += "(" + c.peerLow2 + ")";
-        } else if (c.peerWidth1 == "0" && c.ownWidth1 != "0" && c.conversionRole == kConversionNone) {
-          right += "(" + c.peerLow1 + ")";
+        right += separator;
+        right += c.peerName.view();
+        if (c.peer.bits.present() && !c.own.bits.present() && c.role == ConversionRole::kNone) {
+          right += "(" + c.peer.bits.low.text() + ")";
+        } else if (!c.peer.rows.present() && c.own.rows.present() && c.role == ConversionRole::kNone) {
+          right += "(" + c.peer.rows.low.text() + ")";
         }
       }
       close();
     }
 
     // Outputs of the instance: one entry per driving port, naming the first wire made for it.
-    const auto outputs = sources.wiresByLabel.find(vhdlInstanceLabel(instance));
+    const std::string label = vhdlInstanceLabel(instance);
+    const auto outputs = sources.wiresByLabel.find(label);
     if (outputs != sources.wiresByLabel.end()) {
-      std::unordered_set<std::string> printed;
+      std::unordered_set<Name> printed;
       for (size_t i : outputs->second) {
-        if (printed.insert(wires[i].drivingPort).second) addEntry(wires[i].drivingPort, wires[i].name);
+        if (printed.insert(wires[i].drivingPort).second)
+          addEntry(wires[i].drivingPort.view(), wires[i].name.view());
       }
     }
 
-    text += formatText("\t%s : %s\n%s\n%s\n\n", vhdlInstanceLabel(instance).c_str(),
-                       module.moduleName.c_str(), genericMapText(description_, instance).c_str(),
-                       formatText("\tPORT MAP (\n%s\n\t);\n\n", entries.c_str()).c_str());
+    text += fillTemplate("\t%s : %s\n%s\n%s\n\n",
+                         {label, module.moduleName.view(), genericMapText(description_, instance),
+                          fillTemplate("\tPORT MAP (\n%s\n\t);\n\n", {entries})});
   }
   return text;
 }

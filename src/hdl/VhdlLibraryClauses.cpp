@@ -10,11 +10,11 @@ std::string VhdlFileWriter::libraryClausesText() const {
   std::string text;
   bool defaultLibraries = true;
   for (const CnxLibrary& library : description_.libraries) {
-    if (library.name == "NO_DEFAULT_LIB") {
+    if (library.name == kNoDefaultLibrary) {
       defaultLibraries = false;
       continue;
     }
-    std::string rest = library.use;
+    std::string rest = library.use.str();
     std::string useLines;
     while (!rest.empty()) {
       const std::string piece = splitFirstToken(rest, ";");

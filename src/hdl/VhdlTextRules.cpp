@@ -5,77 +5,87 @@
 #include <cstdint>
 
 #include "base/Format.h"
-#include "base/TextHelpers.h"
 
 namespace plovix {
 
-std::string vhdlDirectionWord(const std::string& direction) {
-  if (direction == "INPUT") return "IN";
-  if (direction == "OUTPUT") return "OUT";
-  if (direction == "BIDIR") return "INOUT";
-  return direction;
+const char* vhdlDirectionWord(PortDirection direction) {
+  switch (direction) {
+    case PortDirection::kInput:
+      return "IN";
+    case PortDirection::kOutput:
+      return "OUT";
+    case PortDirection::kBidir:
+      return "INOUT";
+  }
+  return "";
 }
 
-std::string vhdlRangeText(const std::string& width1, const std::string& low1, const std::string& width2,
-                          const std::string& low2) {
-  if (width1 == "0" && width2 != "0") {
-    return formatText("(%s DOWNTO %s)", upperBoundText(width2, low2).c_str(), low2.c_str());
+std::string vhdlRangeText(const Shape& shape) {
+  if (!shape.rows.present() && shape.bits.present()) {
+    return formatText("(%s DOWNTO %s)", shape.bits.upperText().c_str(), shape.bits.low.text().c_str());
   }
-  if (width1 != "0") {
-    return formatText("(%s DOWNTO %s, %s DOWNTO %s)", upperBoundText(width1, low1).c_str(), low1.c_str(),
-                      upperBoundText(width2, low2).c_str(), low2.c_str());
+  if (shape.rows.present()) {
+    return formatText("(%s DOWNTO %s, %s DOWNTO %s)", shape.rows.upperText().c_str(),
+                      shape.rows.low.text().c_str(), shape.bits.upperText().c_str(),
+                      shape.bits.low.text().c_str());
   }
   return {};
 }
 
-std::string vhdlTypeText(const std::string& width1, const std::string& low1, const std::string& width2,
-                         const std::string& low2) {
+std::string vhdlTypeText(const Shape& shape) {
   std::string suffix;
   std::string range;
-  if (width1 != "0") {
+  if (shape.rows.present()) {
     suffix = "_2D";
-    range = vhdlRangeText(width1, low1, width2, low2);
-  } else if (width2 != "0") {
+    range = vhdlRangeText(shape);
+  } else if (shape.bits.present()) {
     suffix = "_VECTOR";
-    range = vhdlRangeText("0", "0", width2, low2);
+    range = vhdlRangeText(Shape{{}, shape.bits});
   }
   return formatText("STD_LOGIC%s %s", suffix.c_str(), range.c_str());
 }
 
-std::string vhdlBitVectorTypeText(const std::string& width2, const std::string& low2) {
-  return formatText("BIT_VECTOR %s", vhdlRangeText("0", "0", width2, low2).c_str());
+std::string vhdlBitVectorTypeText(const Range& bits) {
+  return formatText("BIT_VECTOR %s", vhdlRangeText(Shape{{}, bits}).c_str());
 }
 
 std::string vhdlDefaultText(const CnxUsedPort& port) {
-  if (port.direction != "INPUT" && port.direction != "BIDIR") return {};
-  if (port.defaultValue == "NODEFVAL") return {};
-  std::string value = port.defaultValue;
-  if (value == "GND") {
-    value = "'0'";
-  } else if (value == "VCC") {
-    value = "'1'";
+  if (port.direction != PortDirection::kInput && port.direction != PortDirection::kBidir) return {};
+  std::string value;
+  switch (port.defaultValue.kind) {
+    case DefaultKind::kNone:
+      return {};
+    case DefaultKind::kGround:
+      value = "'0'";
+      break;
+    case DefaultKind::kPower:
+      value = "'1'";
+      break;
+    case DefaultKind::kOther:
+      value = port.defaultValue.text.str();
+      break;
   }
-  if (port.width1 == "0" && port.width2 == "0") return " := " + value;
+  if (port.shape.isSingleBit()) return " := " + value;
   return " := " + (" (OTHERS => " + value + ")");
 }
 
-std::string vhdlGenericType(const CnxConstant& constant) {
-  return constant.type == "NUMERIC" ? "NATURAL" : "STRING";
+const char* vhdlGenericType(const CnxConstant& constant) {
+  return constant.type == ValueType::kNumeric ? "NATURAL" : "STRING";
 }
 
 std::string vhdlGenericValue(const CnxConstant& constant) {
-  if (constant.type == "NUMERIC") return constant.value;
-  return "\"" + constant.value + "\"";
+  if (constant.type == ValueType::kNumeric) return constant.value.str();
+  return "\"" + constant.value.str() + "\"";
 }
 
-std::string vhdlInstanceLabel(const std::string& instance) {
-  if (instance.empty()) return instance;
-  return instance + "_component";
+std::string vhdlInstanceLabel(Name instance) {
+  if (instance.empty()) return {};
+  return instance.str() + "_component";
 }
 
-long long vhdlIntegerOf(const std::string& text) {
-  if (!isIntegerText(text)) return 0;
-  return std::clamp<long long>(atoiText(text), INT32_MIN, INT32_MAX);
+long long vhdlIntegerOf(Bound bound) {
+  if (!bound.isInteger()) return 0;
+  return std::clamp<long long>(bound.value(), INT32_MIN, INT32_MAX);
 }
 
 }  // namespace plovix

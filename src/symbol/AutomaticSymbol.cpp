@@ -1,7 +1,6 @@
 // The automatic symbol: the drawing library lays out the pins and the parameter text and writes the file.
 #include "symbol/AutomaticSymbol.h"
 
-#include "base/TextHelpers.h"
 #include "plovix_host.h"
 #include "symbol/SymbolBuilder.h"
 #include "symbol/SymbolCodes.h"
@@ -10,15 +9,15 @@ namespace plovix {
 
 namespace {
 
-std::string rangeSuffix(const std::string& width, const std::string& low) {
-  if (width == "0") return {};
-  return "[" + upperBoundText(width, low) + ".." + low + "]";
+std::string rangeSuffix(const Range& range) {
+  if (!range.present()) return {};
+  return "[" + range.upperText() + ".." + range.low.text() + "]";
 }
 
 }  // namespace
 
 std::string pinNameOf(const CnxUsedPort& port) {
-  return port.name + rangeSuffix(port.width1, port.low1) + rangeSuffix(port.width2, port.low2);
+  return port.name.str() + rangeSuffix(port.shape.rows) + rangeSuffix(port.shape.bits);
 }
 
 std::string parameterTextOf(const CnxDescription& description) {
@@ -26,8 +25,9 @@ std::string parameterTextOf(const CnxDescription& description) {
   for (size_t i = 0; i < description.parameters.size(); ++i) {
     const CnxParameter& parameter = description.parameters[i];
     if (i > 0) text += "\n";
-    text += parameter.name + "=";
-    if (parameter.value != "NODEFVAL") text += parameter.value;
+    text += parameter.name.view();
+    text += "=";
+    if (parameter.value != kNoDefaultValue) text += parameter.value.view();
   }
   return text;
 }
@@ -40,8 +40,8 @@ bool SymbolBuilder::buildAutomaticSymbol(const std::string& fileName) {
   keepInstance(made, error.code);
   for (const auto* ports : {&description_.inputPorts, &description_.outputPorts})
     for (const CnxUsedPort& port : *ports)
-      gio_sym_add_pin_stub_w_alt_text(port.tag.c_str(), pinNameOf(port).c_str(), pinTypeCode(port.direction),
-                                      instance_);
+      gio_sym_add_pin_stub_w_alt_text(port.tag.c_str(), pinNameOf(port).c_str(),
+                                      pinTypeCode(directionKeyword(port.direction)), instance_);
   return gio_sym_auto_gen_sym_w_params_w_alt_text(instance_, parameterTextOf(description_).c_str()) != 0;
 }
 

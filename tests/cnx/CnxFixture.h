@@ -6,10 +6,11 @@
 
 #include <string>
 
+#include "CnxTexts.h"
 #include "RecordingInterface.h"
 #include "TempDir.h"
 #include "base/TextFile.h"
-#include "cnx/CnxDescription.h"
+#include "cnx/CnxReader.h"
 
 namespace plovix::testing {
 
@@ -18,8 +19,15 @@ class CnxFixture : public ::testing::Test {
   // Writes `text` (line ends as given) to var.cnx and reads it; true when the read succeeded.
   bool read(const std::string& text) {
     temp.write("var.cnx", text);
-    description.setCnxPath(temp.path("var.cnx"));
-    return description.readDescription(ui);
+    return readFile("var.cnx");
+  }
+
+  // Reads the file `name` of the temporary directory into `description`.
+  bool readFile(const std::string& name) {
+    CnxReader reader(ui, temp.path(name));
+    const bool read = reader.read();
+    description = reader.takeDescription();
+    return read;
   }
 
   // The error log with its line ends read back as "\n".

@@ -1,6 +1,7 @@
 // CONNECT lines: the two ends each line files, constant drivers, and the order in which the map and each
 // port's list give them back.
 #include <algorithm>
+#include <span>
 
 #include "CnxFixture.h"
 
@@ -9,11 +10,9 @@ namespace {
 
 using ConnectionMapTest = CnxFixture;
 
-const CnxEndList& endsOf(const CnxDescription& d, const std::string& instance, const std::string& port) {
-  static const CnxEndList kNone;
-  const CnxPortMap* ports = d.connectionMap.find(instance);
-  const CnxEndList* ends = ports == nullptr ? nullptr : ports->find(port);
-  return ends == nullptr ? kNone : *ends;
+std::span<const CnxConnectionEnd> endsOf(const CnxDescription& d, const std::string& instance,
+                                         const std::string& port) {
+  return d.connectionMap.find(instance, port);
 }
 
 TEST_F(ConnectionMapTest, EachLineFilesAnEndUnderBothReferences) {
@@ -24,34 +23,31 @@ TEST_F(ConnectionMapTest, EachLineFilesAnEndUnderBothReferences) {
   // Before the first MODULE line a reference starting with "@" has no instance name.
   EXPECT_EQ(endsOf(description, "", "early").size(), 1u);
 
-  const CnxEndList& driven = endsOf(description, "", "q");
+  const auto driven = endsOf(description, "", "q");
   ASSERT_EQ(driven.size(), 1u);
   const CnxConnectionEnd& toDriver = driven[0];
   EXPECT_EQ(toDriver.peerInstance, "sub");
   EXPECT_EQ(toDriver.peerPort, "@port");
-  EXPECT_EQ(std::vector<std::string>({toDriver.peerWidth1, toDriver.peerLow1, toDriver.peerWidth2,
-                                      toDriver.peerLow2, toDriver.ownWidth1, toDriver.ownLow1,
-                                      toDriver.ownWidth2, toDriver.ownLow2}),
-            std::vector<std::string>({"8", "4", "2", "0", "4", "2", "3", "1"}));
+  EXPECT_EQ(textsOf(toDriver.peer), std::vector<std::string>({"8", "4", "2", "0"}));
+  EXPECT_EQ(textsOf(toDriver.own), std::vector<std::string>({"4", "2", "3", "1"}));
   EXPECT_TRUE(toDriver.peerIsSource);
   EXPECT_TRUE(toDriver.peerInverted);
   EXPECT_FALSE(toDriver.peerIsConstant);
 
-  const CnxEndList& driving = endsOf(description, "sub", "@port");
+  const auto driving = endsOf(description, "sub", "@port");
   ASSERT_EQ(driving.size(), 1u);
   const CnxConnectionEnd& toDriven = driving[0];
   EXPECT_EQ(toDriven.peerInstance, "");
   EXPECT_EQ(toDriven.peerPort, "q");
-  EXPECT_EQ(std::vector<std::string>({toDriven.peerWidth1, toDriven.peerLow1, toDriven.peerWidth2,
-                                      toDriven.peerLow2, toDriven.ownWidth1, toDriven.ownLow1,
-                                      toDriven.ownWidth2, toDriven.ownLow2}),
-            std::vector<std::string>({"4", "2", "3", "1", "8", "4", "2", "0"}));
+  EXPECT_EQ(textsOf(toDriven.peer), std::vector<std::string>({"4", "2", "3", "1"}));
+  EXPECT_EQ(textsOf(toDriven.own), std::vector<std::string>({"8", "4", "2", "0"}));
   EXPECT_FALSE(toDriven.peerIsSource);
   EXPECT_FALSE(toDriven.peerInverted);
 
   // After it, "@" names the main module.
   EXPECT_EQ(endsOf(description, "top", "clk").size(), 1u);
-  EXPECT_EQ(endsOf(description, "", "clock").at(0).peerInstance, "top");
+  ASSERT_EQ(endsOf(description, "", "clock").size(), 1u);
+  EXPECT_EQ(endsOf(description, "", "clock")[0].peerInstance, "top");
 }
 
 TEST_F(ConnectionMapTest, ConstantDriversAreFoldedAndFiledUnderTheirText) {
@@ -69,21 +65,19 @@ TEST_F(ConnectionMapTest, ConstantDriversAreFoldedAndFiledUnderTheirText) {
                                                           {"g", "5"},   {"h", "-2147483648"}};
   for (const auto& [port, constant] : expected) {
     SCOPED_TRACE(port);
-    const CnxEndList& ends = endsOf(description, "", port);
+    const auto ends = endsOf(description, "", port);
     ASSERT_EQ(ends.size(), 1u);
     EXPECT_EQ(ends[0].peerPort, constant);
     EXPECT_EQ(ends[0].peerInstance, "");
     EXPECT_TRUE(ends[0].peerIsConstant);
     EXPECT_FALSE(ends[0].peerInverted);
-    EXPECT_EQ(ends[0].peerWidth1, "0");
-    EXPECT_EQ(ends[0].peerLow1, "0");
+    EXPECT_EQ(textsOf(ends[0].peer), std::vector<std::string>(4, "0"));
   }
   // The constant's own end keeps "0" bounds, whatever values the line gave it.
-  const CnxEndList& ground = endsOf(description, "", "GND");
+  const auto ground = endsOf(description, "", "GND");
   ASSERT_EQ(ground.size(), 2u);
   EXPECT_EQ(ground[0].peerPort, "a");
-  EXPECT_EQ(ground[0].ownWidth1, "0");
-  EXPECT_EQ(ground[0].ownLow2, "0");
+  EXPECT_EQ(textsOf(ground[0].own), std::vector<std::string>(4, "0"));
   EXPECT_FALSE(ground[0].peerIsConstant);
   EXPECT_EQ(ground[1].peerPort, "f");
 }
@@ -118,7 +112,9 @@ TEST_F(ConnectionMapTest, InstancesAndPortsIterateByBucketNewestFirst) {
   for (const std::string& key : kFilingOrder)
     text += "CONNECT: " + key + "@p 1 0 0 0 top@" + key + " 1 0 0 0\n";
   ASSERT_TRUE(read(text));
-  const std::vector<std::string> instances = description.connectionMap.keys();
+  const CnxConnectionMap& map = description.connectionMap;
+  std::vector<std::string> instances;
+  for (const CnxConnectionMap::Instance& instance : map.instances()) instances.push_back(instance.name.str());
   // "top" ((116 * 33 + 111) * 33 + 112 = 130099 -> 15) was filed with the first line, long before "B".
   const std::vector<std::string> expected = {"D",
                                              "ab",
@@ -132,20 +128,18 @@ TEST_F(ConnectionMapTest, InstancesAndPortsIterateByBucketNewestFirst) {
                                              "top",
                                              "C"};
   EXPECT_EQ(instances, expected);
-  EXPECT_EQ(description.connectionMap.find("top")->keys(), kIterationOrder);
-
-  std::vector<std::string> visited;
-  description.connectionMap.forEach([&](const std::string& key, const CnxPortMap& ports) {
-    visited.push_back(key);
-    EXPECT_EQ(ports.size(), key == "top" ? kFilingOrder.size() : 1u);
-  });
-  EXPECT_EQ(visited, expected);
+  for (const CnxConnectionMap::Instance& instance : map.instances()) {
+    std::vector<std::string> ports;
+    for (const CnxConnectionMap::Port& port : map.portsOf(instance)) ports.push_back(port.name.str());
+    EXPECT_EQ(ports, instance.name == "top" ? kIterationOrder : std::vector<std::string>{"p"});
+    EXPECT_EQ(map.findInstance(instance.name), &instance);
+  }
 }
 
-std::vector<std::string> ownLows(const CnxEndList& ends) {
+std::vector<std::string> ownLows(std::span<const CnxConnectionEnd> ends) {
   std::vector<std::string> out;
   for (const CnxConnectionEnd& end : ends)
-    out.push_back(end.ownLow1 + "/" + end.ownLow2 + "/" + end.peerPort);
+    out.push_back(end.own.rows.low.text() + "/" + end.own.bits.low.text() + "/" + end.peerPort.str());
   return out;
 }
 
@@ -169,32 +163,27 @@ TEST_F(ConnectionMapTest, EndsOfOnePortRunFromTheHighestBitDown) {
   EXPECT_EQ(ownLows(endsOf(description, "", "g")), (std::vector<std::string>{"1/4/r4", "0/8/r8", "0/0/r0"}));
 }
 
-TEST(CnxConnectionOrderTest, FilingOneEndAtATimeGivesTheOrderTheReaderGives) {
-  plovix::testing::TempDir temp;
-  const int lows[] = {3, 0, 7, 3, 5, 5, 1, 9, 0, 3, 8, 2, 7};
-  std::string text = kCnxHead + "MODULE: m\n";
-  CnxDescription single;
-  for (size_t i = 0; i < std::size(lows); ++i) {
-    const std::string low = std::to_string(lows[i]);
-    const std::string peer = "p" + std::to_string(i);
-    text += "CONNECT: q 1 " + low + " 0 0 " + peer + " 1 0 0 0\n";
-    CnxConnectionEnd end;
-    end.ownLow1 = low;
-    end.peerPort = peer;
-    single.addConnectionEnd("", "q", end);
+// Ends filed in any order, from the highest bit down, and from the lowest bit up.
+TEST_F(ConnectionMapTest, EndsOfOnePortAreOrderedWhateverTheFilingOrder) {
+  struct Case {
+    std::vector<int> lows;
+    std::vector<std::string> peers;  // in list order
+  };
+  const Case cases[] = {
+      {{3, 0, 7, 3, 5, 5, 1, 9, 0, 3, 8, 2, 7},
+       {"p7", "p10", "p2", "p12", "p4", "p5", "p0", "p3", "p9", "p11", "p6", "p1", "p8"}},
+      {{3, 2, 1, 0}, {"p0", "p1", "p2", "p3"}},
+      {{0, 1, 2, 3}, {"p3", "p2", "p1", "p0"}},
+  };
+  for (const Case& c : cases) {
+    std::string text = kCnxHead + "MODULE: m\n";
+    for (size_t i = 0; i < c.lows.size(); ++i)
+      text += "CONNECT: q 1 " + std::to_string(c.lows[i]) + " 0 0 p" + std::to_string(i) + " 1 0 0 0\n";
+    ASSERT_TRUE(read(text));
+    std::vector<std::string> peers;
+    for (const CnxConnectionEnd& end : endsOf(description, "", "q")) peers.push_back(end.peerPort.str());
+    EXPECT_EQ(peers, c.peers);
   }
-  temp.write("v.cnx", text);
-  CnxDescription read(temp.path("v.cnx"));
-  RecordingInterface ui;
-  ASSERT_TRUE(read.readDescription(ui));
-  std::vector<std::string> expected;
-  for (const CnxConnectionEnd& end : *single.connectionMap.find("")->find("q"))
-    expected.push_back(end.peerPort);
-  std::vector<std::string> got;
-  for (const CnxConnectionEnd& end : endsOf(read, "", "q")) got.push_back(end.peerPort);
-  EXPECT_EQ(got, expected);
-  EXPECT_EQ(expected, (std::vector<std::string>{"p7", "p10", "p2", "p12", "p4", "p5", "p0", "p3", "p9", "p11",
-                                                "p6", "p1", "p8"}));
 }
 
 }  // namespace

@@ -1,38 +1,32 @@
-// The description's life outside reading: reset, the work-file paths and their deletion.
+// The work files beside a CNX file: the error log's path, and their deletion after a generation.
 #include <gtest/gtest.h>
 
 #include "TempDir.h"
 #include "base/FileSystem.h"
-#include "cnx/CnxDescription.h"
+#include "cnx/CnxReader.h"
+#include "cnx/ErrorLog.h"
 
 namespace plovix::testing {
 namespace {
 
-TEST(CnxDescriptionTest, PathsOfTheCnxFileAndItsLog) {
-  CnxDescription d("/work/dir/var.name.cnx");
-  EXPECT_EQ(d.cnxPath, "/work/dir/var.name.cnx");
-  EXPECT_EQ(d.errorLogPath, "/work/dir/var.name.cnxerr");
-  d.setCnxPath("rel/var");
-  EXPECT_EQ(d.errorLogPath, "rel/var.cnxerr");
-  d.setCnxPath("");
-  EXPECT_EQ(d.cnxPath, "");
-  EXPECT_EQ(d.errorLogPath, "");
+TEST(CnxWorkFilesTest, PathOfTheErrorLog) {
+  EXPECT_EQ(cnxErrorLogPath("/work/dir/var.name.cnx"), "/work/dir/var.name.cnxerr");
+  EXPECT_EQ(cnxErrorLogPath("rel/var"), "rel/var.cnxerr");
+  EXPECT_EQ(cnxErrorLogPath(""), "");
 }
 
-TEST(CnxDescriptionTest, DeleteWorkFilesRemovesTheCnxFileAndItsLogOnly) {
+TEST(CnxWorkFilesTest, DeletionRemovesTheCnxFileAndItsLogOnly) {
   TempDir temp;
   temp.write("var.cnx", "x");
   temp.write("var.cnxerr", "x");
   temp.write("var.v", "x");
-  CnxDescription d(temp.path("var.cnx"));
-  d.deleteWorkFiles();
+  deleteCnxWorkFiles(temp.path("var.cnx"));
   EXPECT_FALSE(fileExists(temp.path("var.cnx")));
   EXPECT_FALSE(fileExists(temp.path("var.cnxerr")));
   EXPECT_TRUE(fileExists(temp.path("var.v")));
   // Missing files and an empty path are no fault.
-  d.deleteWorkFiles();
-  CnxDescription none;
-  none.deleteWorkFiles();
+  deleteCnxWorkFiles(temp.path("var.cnx"));
+  deleteCnxWorkFiles("");
 }
 
 }  // namespace

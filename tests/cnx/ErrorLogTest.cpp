@@ -106,7 +106,6 @@ TEST_F(ErrorLogTest, FirstTwoLinesMustBeTheGenerationAndVersionLines) {
   for (const Case& c : cases) {
     SCOPED_TRACE(c.text);
     ui.boxes.clear();
-    description.reset();
     EXPECT_FALSE(read(c.text));
     EXPECT_EQ(log(), banner() + c.log);
     EXPECT_EQ(ui.boxes, std::vector<std::string>{error33()});
@@ -121,20 +120,18 @@ TEST_F(ErrorLogTest, ValidFileLeavesTheBannerAloneInTextMode) {
             "**       CNX File Error Log              **\r\n"
             "*******************************************\r\n\r\n");
   EXPECT_TRUE(ui.boxes.empty());
-  EXPECT_EQ(description.generationMode, "SYMBOL_ONLY");
+  EXPECT_EQ(description.generationMode, GenerationMode::kSymbolOnly);
   EXPECT_EQ(description.version, "WM1.0");
 }
 
 TEST_F(ErrorLogTest, MissingCnxFileIsAFileErrorAfterTheLogWasCreated) {
-  description.setCnxPath(temp.path("none.cnx"));
-  EXPECT_FALSE(description.readDescription(ui));
+  EXPECT_FALSE(readFile("none.cnx"));
   EXPECT_EQ(ui.boxes, std::vector<std::string>{reported(Msg::kFileNotOpened, temp.path("none.cnx"))});
   EXPECT_EQ(fromTextMode(temp.read("none.cnxerr")), banner());
 
   // Without any path neither file can be opened.
   RecordingInterface pathless;
-  CnxDescription none;
-  EXPECT_FALSE(none.readDescription(pathless));
+  EXPECT_FALSE(CnxReader(pathless, "").read());
   EXPECT_EQ(pathless.boxes, std::vector<std::string>(2, reported(Msg::kFileNotOpened, "")));
 }
 
@@ -142,14 +139,12 @@ TEST_F(ErrorLogTest, LogThatCannotBeCreatedIsReportedAtEveryFaultAndNoEntryIsWri
   temp.write("dir/var.cnx", kCnxHead + "FOO:\nMODULE: m\n");
   // A directory where the log should be: it can neither be created nor appended to.
   temp.write("dir/var.cnxerr/keep", "");
-  description.setCnxPath(temp.path("dir/var.cnx"));
-  EXPECT_FALSE(description.readDescription(ui));
+  EXPECT_FALSE(readFile("dir/var.cnx"));
   // The log stays to be created, so the fault of line 3 tries again and its entry is lost; reading goes on.
   const std::vector<std::string> expected = {reported(Msg::kUnknownFileError),
                                              reported(Msg::kUnknownFileError),
                                              reported(Msg::kCnxFormatError, temp.path("dir/var.cnxerr"))};
   EXPECT_EQ(ui.boxes, expected);
-  EXPECT_TRUE(description.errorLogFresh);
   EXPECT_EQ(description.modules.size(), 1u);
 }
 

@@ -5,6 +5,7 @@
 
 #include "CnxFixture.h"
 #include "base/FileSystem.h"
+#include "cnx/RetrievalInfo.h"
 
 namespace plovix::testing {
 namespace {
@@ -27,9 +28,6 @@ TEST_F(MalformedInputTest, EveryOperationEndsNormallyOnKeptInputs) {
     SCOPED_TRACE(file);
     const std::string bytes = TempDir::readFile(file);
     ui.boxes.clear();
-    CnxDescription fresh;
-    description = std::move(fresh);
-
     // The read leaves the banner alone when it succeeds and shows error 33 last when it fails.
     const bool ok = read(bytes);
     const std::string logText = log();
@@ -43,22 +41,19 @@ TEST_F(MalformedInputTest, EveryOperationEndsNormallyOnKeptInputs) {
     }
 
     // The retrieval info holds its banner and then statement lines only.
-    std::string block;
-    ASSERT_TRUE(description.writeRetrievalInfo(ui, ".vhd", block));
-    const std::vector<std::string> lines = splitLines(block);
+    const std::vector<std::string> lines = splitLines(retrievalInfoText(description, "--"));
     ASSERT_GE(lines.size(), 3u);
     for (size_t i = 3; i < lines.size(); ++i) EXPECT_EQ(lines[i].substr(0, 19), "-- Retrieval info: ");
 
     // Stripping never grows the file beyond its text-mode form.
-    EXPECT_TRUE(description.stripGenerationLine(ui, temp.path("var.cnx")));
+    EXPECT_TRUE(stripGenerationLine(ui, temp.path("var.cnx")));
     EXPECT_LE(fromTextMode(temp.read("var.cnx")).size(), fromTextMode(bytes).size() + 1);
 
     // As a variation file, with and without a signature in front.
     for (const std::string& signature : {std::string(), std::string("-- modulon wizard: %m%\n")}) {
       std::filesystem::remove(temp.path("edit.cnx"));
       temp.write("edit.vhd", signature + bytes);
-      CnxDescription edit;
-      edit.extractRetrievalInfo(ui, temp.path("edit.vhd"));
+      extractRetrievalInfo(ui, temp.path("edit.vhd"));
       if (fileExists(temp.path("edit.cnx"))) {
         EXPECT_EQ(temp.read("edit.cnx").substr(0, 9), "VERSION: ");
       }
@@ -73,12 +68,12 @@ TEST_F(MalformedInputTest, StrayQuotesAndMarksAreLoggedAsTheirStatementsFail) {
                        entry(6, "", Msg::kCnxUnknownStatement) + entry(7, "", Msg::kCnxUnknownStatement) +
                        entry(8, "MODULE: x", Msg::kCnxUnknownStatement) + entry(15, "", Msg::kCnxNoNumber));
   // "@" alone names the main module's nameless port; "!" alone is a reference with empty parts.
-  ASSERT_NE(description.connectionMap.find("m"), nullptr);
-  EXPECT_NE(description.connectionMap.find("m")->find(""), nullptr);
-  const CnxPortMap* unnamed = description.connectionMap.find("");
-  ASSERT_NE(unnamed, nullptr);
-  EXPECT_EQ(unnamed->find("-1")->at(0).peerPort, "a");
-  EXPECT_EQ(unnamed->find("-2147483648")->at(0).ownLow1, "0");
+  const CnxConnectionMap& map = description.connectionMap;
+  EXPECT_FALSE(map.find("m", "").empty());
+  ASSERT_FALSE(map.find("", "-1").empty());
+  EXPECT_EQ(map.find("", "-1")[0].peerPort, "a");
+  ASSERT_FALSE(map.find("", "-2147483648").empty());
+  EXPECT_TRUE(map.find("", "-2147483648")[0].own.rows.low.isZero());
   EXPECT_EQ(description.inputPorts.at(0).name, "");
   // The pin stub's lone quote is its (empty) pin name, so its text position is missing. The PARAMETER element
   // with an empty text is dropped without an entry; the BOX's lone quote is its empty font.

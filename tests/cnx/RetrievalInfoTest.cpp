@@ -3,6 +3,7 @@
 #include "CnxFixture.h"
 #include "base/FileSystem.h"
 #include "base/PathText.h"
+#include "cnx/RetrievalInfo.h"
 
 namespace plovix::testing {
 namespace {
@@ -48,28 +49,13 @@ std::string led(const std::string& leader, const std::string& lines) {
 using RetrievalInfoTest = CnxFixture;
 
 TEST_F(RetrievalInfoTest, BlockCarriesTheStatementLinesOnlyBehindTheCommentLeader) {
-  // The statement word ends at a blank or tab only, so the last line is not copied.
-  temp.write("var.cnx", kDescriptionText + "LIBRARY:;x y\n");
-  description.setCnxPath(temp.path("var.cnx"));
-  std::string out = "design text\n";
-  ASSERT_TRUE(description.writeRetrievalInfo(ui, ".vhd", out));
-  EXPECT_EQ(out, "design text\n-- " + kRule + "\n-- CNX file retrieval info\n-- " + kRule + "\n" +
-                     led("--", kRetrievalLines));
-  EXPECT_EQ(description.commentLeader, "--");
-
-  out.clear();
-  ASSERT_TRUE(description.writeRetrievalInfo(ui, ".v", out));
-  EXPECT_EQ(out,
+  // The statement word ends at a blank or tab only, so the last line is not carried.
+  ASSERT_TRUE(read(kDescriptionText + "LIBRARY:;x y\n"));
+  EXPECT_EQ(retrievalInfoText(description, "--"),
+            "-- " + kRule + "\n-- CNX file retrieval info\n-- " + kRule + "\n" + led("--", kRetrievalLines));
+  EXPECT_EQ(retrievalInfoText(description, "//"),
             "// " + kRule + "\n// CNX file retrieval info\n// " + kRule + "\n" + led("//", kRetrievalLines));
   EXPECT_TRUE(ui.boxes.empty());
-}
-
-TEST_F(RetrievalInfoTest, BlockOfAMissingCnxFileIsAFileError) {
-  description.setCnxPath(temp.path("gone.cnx"));
-  std::string out = "kept";
-  EXPECT_FALSE(description.writeRetrievalInfo(ui, ".tdf", out));
-  EXPECT_EQ(out, "kept");
-  EXPECT_EQ(ui.boxes, std::vector<std::string>{reported(Msg::kFileNotOpened, temp.path("gone.cnx"))});
 }
 
 // A variation file as the design-file writer lays it out: signature, header lines, design text, retrieval
@@ -81,8 +67,7 @@ std::string variationFile(const std::string& headerLines, const std::string& ret
 
 TEST_F(RetrievalInfoTest, RoundTripRebuildsTheCnxFileThePlugInStartsFrom) {
   ASSERT_TRUE(read(kDescriptionText));
-  std::string block;
-  ASSERT_TRUE(description.writeRetrievalInfo(ui, ".vhd", block));
+  const std::string block = retrievalInfoText(description, "--");
   int errorNumber = 0;
   ASSERT_TRUE(
       writeTextFile(temp.path("count8.vhd"),
@@ -91,11 +76,8 @@ TEST_F(RetrievalInfoTest, RoundTripRebuildsTheCnxFileThePlugInStartsFrom) {
                                   block),
                     errorNumber));
 
-  CnxDescription edit;
-  ASSERT_TRUE(edit.extractRetrievalInfo(ui, temp.path("count8.vhd")));
+  ASSERT_TRUE(extractRetrievalInfo(ui, temp.path("count8.vhd")));
   EXPECT_TRUE(ui.boxes.empty());
-  EXPECT_EQ(edit.cnxPath, temp.path("count8.cnx"));
-  EXPECT_EQ(edit.version, "WM1.0");
   const std::string rebuilt =
       "VERSION: WM1.0\nMODULE: lpm_counter\nMODULE: lpm_add_sub adder\nLIBRARY: lpm lpm_components\n"
       "PARAMETER: LPM_WIDTH NUMERIC 8\nCONSTANT: c STRING \"a b\" adder\nPRIVATE: p STRING x\n"
@@ -103,20 +85,20 @@ TEST_F(RetrievalInfoTest, RoundTripRebuildsTheCnxFileThePlugInStartsFrom) {
   EXPECT_EQ(temp.read("count8.cnx"), toTextMode(rebuilt));
 
   // Read as it stands, it lacks the generation line the plug-in writes back.
-  edit.setCnxPath(edit.cnxPath);
-  EXPECT_FALSE(edit.readDescription(ui));
+  const CnxDescription written = std::move(description);
+  EXPECT_FALSE(readFile("count8.cnx"));
   EXPECT_EQ(ui.boxes, std::vector<std::string>{reported(Msg::kCnxFormatError, temp.path("count8.cnxerr"))});
 
   // With it, the description reads back as it was written, but for the symbol the header does not carry.
   temp.write("count8.cnx", "GENERATION: STANDARD\n" + temp.read("count8.cnx"));
-  CnxDescription again(temp.path("count8.cnx"));
-  ASSERT_TRUE(again.readDescription(ui));
-  EXPECT_EQ(again.moduleNames, description.moduleNames);
+  ASSERT_TRUE(readFile("count8.cnx"));
+  const CnxDescription& again = description;
+  EXPECT_EQ(textsOf(again.moduleNames), textsOf(written.moduleNames));
   EXPECT_EQ(again.modules[1].instanceName, "adder");
-  EXPECT_EQ(again.libraries[0].use, description.libraries[0].use);
+  EXPECT_EQ(again.libraries[0].use, written.libraries[0].use);
   EXPECT_EQ(again.constants[0].value, "a b");
   EXPECT_EQ(again.outputPorts[0].name, "q");
-  EXPECT_EQ(again.connectionMap.keys(), description.connectionMap.keys());
+  EXPECT_EQ(again.retrievedStatements, written.retrievedStatements);
   EXPECT_TRUE(again.symbolElements.empty());
   EXPECT_TRUE(again.defaultSymbolBox);
 }
@@ -128,7 +110,7 @@ TEST_F(RetrievalInfoTest, ExtraTextOnHeaderLinesIsIgnoredWithAWarning) {
                                           "-- MODULE: a b c\n-- MODULE: d\n",
                                           "-- Retrieval info:\n-- Retrieval info: LIBRARY: lpm x\n"),
                             errorNumber));
-  ASSERT_TRUE(description.extractRetrievalInfo(ui, temp.path("v.vhd")));
+  ASSERT_TRUE(extractRetrievalInfo(ui, temp.path("v.vhd")));
   EXPECT_EQ(ui.boxes, std::vector<std::string>(3, kWarning32));
   EXPECT_EQ(fromTextMode(temp.read("v.cnx")), "VERSION: WM1.0\nMODULE: a b\nMODULE: d\n\nLIBRARY: lpm x\n");
 }
@@ -142,7 +124,7 @@ TEST_F(RetrievalInfoTest, UnknownVersionOrNoModuleStopsTheEdit) {
     ASSERT_TRUE(writeTextFile(temp.path("v.vhd"),
                               variationFile("-- GENERATION: STANDARD\n" + versionLine + "-- MODULE: a\n", ""),
                               errorNumber));
-    EXPECT_FALSE(description.extractRetrievalInfo(ui, temp.path("v.vhd")));
+    EXPECT_FALSE(extractRetrievalInfo(ui, temp.path("v.vhd")));
     EXPECT_EQ(ui.boxes, std::vector<std::string>{kError31});
     EXPECT_FALSE(fileExists(temp.path("v.cnx")));
   }
@@ -153,11 +135,10 @@ TEST_F(RetrievalInfoTest, UnknownVersionOrNoModuleStopsTheEdit) {
                     variationFile("-- GENERATION: STANDARD\n-- VERSION: WM1.0\n-- MODULE:\n// MODULE: b\n",
                                   "-- Retrieval info: LIBRARY: lpm x\n"),
                     errorNumber));
-  EXPECT_FALSE(description.extractRetrievalInfo(ui, temp.path("v.vhd")));
+  EXPECT_FALSE(extractRetrievalInfo(ui, temp.path("v.vhd")));
   EXPECT_EQ(ui.boxes, std::vector<std::string>{kError30});
-  // The file is written all the same, and is the one the description now names.
+  // The file is written all the same.
   EXPECT_EQ(fromTextMode(temp.read("v.cnx")), "VERSION: WM1.0\nLIBRARY: lpm x\n");
-  EXPECT_EQ(description.cnxPath, temp.path("v.cnx"));
 }
 
 TEST_F(RetrievalInfoTest, OnlyStandardWizardFilesAreRebuilt) {
@@ -171,23 +152,23 @@ TEST_F(RetrievalInfoTest, OnlyStandardWizardFilesAreRebuilt) {
   for (const auto& [name, text] : files) {
     temp.write(name, text);
     const bool wizardFile = name != "plain.vhd" && name != "second.vhd";
-    EXPECT_EQ(description.extractRetrievalInfo(ui, temp.path(name)), wizardFile) << name;
+    EXPECT_EQ(extractRetrievalInfo(ui, temp.path(name)), wizardFile) << name;
     EXPECT_FALSE(fileExists(pathWithoutExtension(temp.path(name)) + ".cnx")) << name;
   }
-  EXPECT_FALSE(description.extractRetrievalInfo(ui, temp.path("missing.vhd")));
+  EXPECT_FALSE(extractRetrievalInfo(ui, temp.path("missing.vhd")));
   EXPECT_TRUE(ui.boxes.empty());
 }
 
 TEST_F(RetrievalInfoTest, RebuiltFileThatCannotBeWrittenIsAFileError) {
   temp.write("v.vhd", variationFile("-- GENERATION: STANDARD\n-- VERSION: WM1.0\n-- MODULE: a\n", ""));
   temp.write("v.cnx/occupied", "");
-  EXPECT_FALSE(description.extractRetrievalInfo(ui, temp.path("v.vhd")));
+  EXPECT_FALSE(extractRetrievalInfo(ui, temp.path("v.vhd")));
   EXPECT_EQ(ui.boxes, std::vector<std::string>{reported(Msg::kUnknownFileError)});
 }
 
 TEST_F(RetrievalInfoTest, StripGenerationLineRemovesOnlyAValidGenerationLine) {
   temp.write("a.cnx", "GENERATION: SYMBOL_ONLY extra\r\nVERSION: WM1.0\nMODULE: m");
-  EXPECT_TRUE(description.stripGenerationLine(ui, temp.path("a.cnx")));
+  EXPECT_TRUE(stripGenerationLine(ui, temp.path("a.cnx")));
   EXPECT_EQ(temp.read("a.cnx"), "VERSION: WM1.0\r\nMODULE: m\r\n");
 
   const std::string untouched[] = {"VERSION: WM1.0\nMODULE: m\n", "GENERATION: INVALID\nVERSION: WM1.0\n",
@@ -195,12 +176,12 @@ TEST_F(RetrievalInfoTest, StripGenerationLineRemovesOnlyAValidGenerationLine) {
   for (const std::string& text : untouched) {
     SCOPED_TRACE(text);
     temp.write("b.cnx", text);
-    EXPECT_TRUE(description.stripGenerationLine(ui, temp.path("b.cnx")));
+    EXPECT_TRUE(stripGenerationLine(ui, temp.path("b.cnx")));
     EXPECT_EQ(temp.read("b.cnx"), text);
   }
   EXPECT_TRUE(ui.boxes.empty());
 
-  EXPECT_FALSE(description.stripGenerationLine(ui, temp.path("none.cnx")));
+  EXPECT_FALSE(stripGenerationLine(ui, temp.path("none.cnx")));
   EXPECT_EQ(ui.boxes, std::vector<std::string>{reported(Msg::kFileNotOpened, temp.path("none.cnx"))});
 }
 

@@ -8,15 +8,15 @@ namespace {
 
 using StatementsTest = CnxFixture;
 
-std::vector<std::string> tokensOf(std::string rest, std::vector<bool>* emptyQuoted = nullptr) {
+std::vector<std::string> tokensOf(std::string_view rest, std::vector<bool>* emptyQuoted = nullptr) {
   std::vector<std::string> tokens;
+  CnxLine line;
+  line.rest = rest;
   for (int guard = 0; guard < 20; ++guard) {
-    std::string token;
-    bool quoted = false;
-    takeCnxToken(rest, token, quoted);
-    if (token.empty() && !quoted) break;
-    tokens.push_back(token);
-    if (emptyQuoted != nullptr) emptyQuoted->push_back(quoted);
+    line.take();
+    if (line.token.empty() && !line.emptyQuoted) break;
+    tokens.emplace_back(line.token);
+    if (emptyQuoted != nullptr) emptyQuoted->push_back(line.emptyQuoted);
   }
   return tokens;
 }
@@ -34,13 +34,13 @@ TEST(CnxTokenizerTest, DelimitersQuotesAndTheEmptyQuotedToken) {
   EXPECT_EQ(quoted, (std::vector<bool>{true, true, false, false}));
 
   // The rest after a token starts at the next token.
-  std::string rest = "one;  two three";
-  std::string token;
-  bool emptyQuoted = true;
-  takeCnxToken(rest, token, emptyQuoted);
-  EXPECT_EQ(token, "one");
-  EXPECT_EQ(rest, "two three");
-  EXPECT_FALSE(emptyQuoted);
+  CnxLine line;
+  line.rest = "one;  two three";
+  line.emptyQuoted = true;
+  line.take();
+  EXPECT_EQ(line.token, "one");
+  EXPECT_EQ(line.rest, "two three");
+  EXPECT_FALSE(line.emptyQuoted);
 }
 
 TEST_F(StatementsTest, LibrariesAndModules) {
@@ -63,12 +63,12 @@ TEST_F(StatementsTest, LibrariesAndModules) {
   EXPECT_EQ(description.modules[2].instanceName, "second");
   EXPECT_EQ(description.modules[2].givenInstanceName, "second");
   EXPECT_EQ(description.modules[3].instanceName, "A");
-  EXPECT_EQ(description.moduleNames, (std::vector<std::string>{"A", "B", "C"}));
+  EXPECT_EQ(textsOf(description.moduleNames), (std::vector<std::string>{"A", "B", "C"}));
 }
 
 TEST_F(StatementsTest, ModuleNamesAreCollectedEvenWhenOtherLinesFail) {
   EXPECT_FALSE(read(kCnxHead + "MODULE: B\nFOO:\nMODULE: A\nMODULE: B\n"));
-  EXPECT_EQ(description.moduleNames, (std::vector<std::string>{"B", "A"}));
+  EXPECT_EQ(textsOf(description.moduleNames), (std::vector<std::string>{"B", "A"}));
 }
 
 TEST_F(StatementsTest, ParametersConstantsAndPrivates) {
@@ -85,7 +85,7 @@ TEST_F(StatementsTest, ParametersConstantsAndPrivates) {
   EXPECT_EQ(description.parameters[1].target, "inst");
   EXPECT_EQ(description.parameters[2].value, "not_a_number");
   ASSERT_EQ(description.constants.size(), 1u);
-  EXPECT_EQ(description.constants[0].type, "STRING");
+  EXPECT_EQ(description.constants[0].type, ValueType::kString);
   EXPECT_EQ(description.constants[0].value, "");
   EXPECT_EQ(description.constants[0].target, "target");
   ASSERT_EQ(description.privates.size(), 1u);
@@ -103,18 +103,19 @@ TEST_F(StatementsTest, UsedPortsGoToTheListOfTheirDirectionOrOfTheMainModule) {
                               "USED_PORT: sub@y 4 0 0 0 INPUT NODEFVAL\n"));
   ASSERT_EQ(description.inputPorts.size(), 4u);
   EXPECT_EQ(description.inputPorts[0].name, "data");
-  EXPECT_EQ(description.inputPorts[0].width1, "8");
+  EXPECT_EQ(textsOf(description.inputPorts[0].shape), (std::vector<std::string>{"8", "0", "0", "0"}));
   EXPECT_EQ(description.inputPorts[0].tag, "");
   EXPECT_EQ(description.inputPorts[1].name, "x");
-  EXPECT_EQ(description.inputPorts[1].defaultValue, "VCC");
+  EXPECT_EQ(description.inputPorts[1].defaultValue.kind, DefaultKind::kPower);
   EXPECT_EQ(description.inputPorts[2].name, "inv");
   EXPECT_EQ(description.inputPorts[3].name, "y");
   ASSERT_EQ(description.outputPorts.size(), 2u);
   EXPECT_EQ(description.outputPorts[0].tag, "Q_tag");
-  EXPECT_EQ(description.outputPorts[1].direction, "BIDIR");
+  EXPECT_EQ(description.outputPorts[1].direction, PortDirection::kBidir);
+  EXPECT_EQ(description.outputPorts[1].defaultValue.kind, DefaultKind::kGround);
   ASSERT_EQ(description.mainModulePorts.size(), 1u);
   EXPECT_EQ(description.mainModulePorts[0].name, "clock");
-  EXPECT_EQ(description.mainModulePorts[0].direction, "OUTPUT");
+  EXPECT_EQ(description.mainModulePorts[0].direction, PortDirection::kOutput);
   EXPECT_FALSE(description.uses2D);
 }
 
@@ -135,8 +136,6 @@ TEST_F(StatementsTest, TwoNonZeroWidthsMakeTheDescriptionTwoDimensional) {
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.line);
-    CnxDescription fresh;
-    description = std::move(fresh);
     read(kCnxHead + "MODULE: m\n" + c.line + "\n");
     EXPECT_EQ(description.uses2D, c.twoD);
   }

@@ -5,7 +5,7 @@
 
 #include "TempDir.h"
 #include "base/UserInterface.h"
-#include "cnx/CnxDescription.h"
+#include "cnx/CnxReader.h"
 
 namespace plovix::testing {
 
@@ -20,8 +20,10 @@ inline constexpr const char* kCorpusSignature = "pvx_counter";
 inline bool readCnxText(const std::string& name, const std::string& text, const TempDir& work,
                         UserInterface& ui, CnxDescription& description) {
   work.write(name + ".cnx", text);
-  description.setCnxPath(work.path(name + ".cnx"));
-  return description.readDescription(ui);
+  CnxReader reader(ui, work.path(name + ".cnx"));
+  const bool read = reader.read();
+  description = reader.takeDescription();
+  return read;
 }
 
 // Copies the case's .cnx file into `work` (the reader writes its error log beside it) and reads it.

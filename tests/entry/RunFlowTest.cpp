@@ -212,15 +212,16 @@ TEST_F(RunFlowTest, EditModePreparesTheDescriptionFromCnxOrVariationFile) {
 TEST_F(RunFlowTest, GenerationModeChoosesWhatIsWritten) {
   const std::string out = temp.dir() + "s";
   for (const auto& [mode, expected] :
-       {std::pair<std::string, std::string>{"SYMBOL_ONLY", "generate:" + out + ".tdf symbol"},
-        std::pair<std::string, std::string>{"INVALID", "delete"}}) {
+       {std::pair<GenerationMode, std::string>{GenerationMode::kSymbolOnly,
+                                               "generate:" + out + ".tdf symbol"},
+        std::pair<GenerationMode, std::string>{GenerationMode::kInvalid, "delete"}}) {
     ScriptedRunSteps fresh;
     fresh.actionScript = {chooseCreate};
     fresh.modulonScript = {pickModulon(temp.dir(), "s", ".tdf", "m")};
     fresh.launches = {{true, 0}};
     fresh.generationMode = mode;
     runManager(app, ui, fresh, nullptr, nullptr);
-    EXPECT_EQ(fresh.log[6], expected) << mode;
+    EXPECT_EQ(fresh.log[6], expected) << static_cast<int>(mode);
   }
 }
 

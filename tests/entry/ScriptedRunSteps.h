@@ -51,7 +51,7 @@ class ScriptedRunSteps : public RunSteps {
     return result;
   }
   bool readDescription(ManagerRun& run) override {
-    log.push_back("read:" + run.description->cnxPath);
+    log.push_back("read:" + run.cnxPath());
     run.description->generationMode = generationMode;
     return readResult;
   }
@@ -75,7 +75,7 @@ class ScriptedRunSteps : public RunSteps {
   std::deque<LaunchResult> launches;
   bool prepareResult = true;
   bool readResult = true;
-  std::string generationMode = "STANDARD";
+  GenerationMode generationMode = GenerationMode::kStandard;
   std::string renameTo;
 
  private:

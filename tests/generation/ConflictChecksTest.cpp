@@ -22,7 +22,10 @@ ManagerRun runWithModules(const std::string& fileTitle, std::initializer_list<co
   ManagerRun run;
   run.fileTitle = fileTitle;
   run.description = std::make_unique<CnxDescription>();
-  for (const char* name : moduleNames) run.description->modules.push_back({name, name, ""});
+  for (const char* name : moduleNames) {
+    const Name module = run.description->names->intern(name);
+    run.description->modules.push_back({module, module, Name()});
+  }
   return run;
 }
 

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "../corpus/CorpusCase.h"
 #include "../thdl/ExpectedNotice.h"
 #include "RecordingInterface.h"
 #include "TempDir.h"
@@ -18,6 +19,7 @@
 #include "entry/ConflictChecks.h"
 #include "entry/GenerateVariation.h"
 #include "entry/ManagerApp.h"
+#include "hdl/Netlist.h"
 #include "hdl/VhdlFileWriter.h"
 
 namespace plovix {
@@ -44,8 +46,9 @@ class Generation : public ::testing::Test {
     run.extension = fileName.substr(fileName.rfind('.'));
     run.modulonName = "lpm_counter";
     std::filesystem::copy_file(std::string(PLOVIX_TEST_DATA_DIR "/") + cnxFile, run.cnxPath());
-    run.description = std::make_unique<CnxDescription>(run.cnxPath());
-    ASSERT_TRUE(run.description->readDescription(ui));
+    run.description = std::make_unique<CnxDescription>();
+    ASSERT_TRUE(
+        testing::readCnxText(run.fileTitle, dir.read(run.fileTitle + ".cnx"), dir, ui, *run.description));
     run.catalog = std::make_unique<WizardCatalog>();
     if (!catalog.empty()) {
       dir.write("lib/wizard.lst", catalog);
@@ -130,7 +133,6 @@ TEST_F(Generation, FilesAreAttemptedInOrder) {
     ui.boxes.clear();
     prepare(std::string("count8") + extension);
     app.run.directory = dir.path("missing/");
-    app.run.description->setCnxPath(dir.path("count8.cnx"));
     generate();
     Names expected = {"missing/count8" + std::string(extension), "missing/count8.inc", "missing/count8.cmp",
                       "missing/count8.sym"};
@@ -174,7 +176,8 @@ TEST_F(Generation, NativeCopyGoesThroughTheHostLibrary) {
   prepare("count8.tdf", "count8.cnx", kNativeVhdlCatalog);
   EXPECT_TRUE(generate());
   EXPECT_EQ(app.run.encPath, dir.path("count8_enc.vhd"));
-  VhdlFileWriter vhdl(ui, dir.path("count8"), "lpm_counter", *app.run.description);
+  const Netlist netlist = buildNetlist(*app.run.description, "lpm_counter");
+  const VhdlFileWriter vhdl(ui, dir.path("count8"), "lpm_counter", *app.run.description, netlist);
   const std::string text = vhdl.designText();
   EXPECT_NE(text.find("-- File Name: count8.vhd\n"), std::string::npos);
   EXPECT_EQ(text.find("Retrieval info:"), std::string::npos);

@@ -1,13 +1,15 @@
-// The connection netlist: shared and constant wires, inverted ends, widened ports, rows, sub-module ports.
+// The connection netlist: which driving ends get wires, how wires are shared and named, constants, inverted
+// ends, widened variation ports, packed rows, merged sub-module ports and the main-module widening.
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <string>
 
 #include "../corpus/CorpusCase.h"
+#include "CnxTexts.h"
 #include "RecordingInterface.h"
 #include "TempDir.h"
-#include "hdl/HdlFileWriter.h"
+#include "hdl/MainModuleWires.h"
+#include "hdl/Netlist.h"
 
 namespace plovix {
 namespace {
@@ -15,257 +17,190 @@ namespace {
 using testing::RecordingInterface;
 using testing::TempDir;
 
-// A writer with no texts of its own, to reach the netlist operations.
-class NetlistWriter : public HdlFileWriter {
- public:
-  using HdlFileWriter::HdlFileWriter;
-  std::string buildDesignText() override { return {}; }
-  std::string buildCompanionText() override { return {}; }
-  std::string buildInstanceText() override { return {}; }
+std::string join(const std::vector<std::string>& texts) {
+  std::string out;
+  for (const std::string& text : texts) out += (out.empty() ? "" : " ") + text;
+  return out;
+}
+
+// One line per wire: name, key, source text (when it differs), driving port, widths, uses, kind.
+std::string wiresOf(const Netlist& netlist) {
+  std::string out;
+  for (const NetlistWire& w : netlist.wires()) {
+    out += w.name.str() + " " + w.sourceKey.str();
+    if (w.sourceText != w.sourceKey) out += " from " + w.sourceText.str();
+    out += " port " + w.drivingPort.str() + " " + w.rowsWidth.text() + "/" + w.bitsWidth.text() + " x" +
+           std::to_string(w.useCount) + (w.isConstant ? " constant" : "") +
+           (w.isInverted ? " inverted" : "") + "\n";
+  }
+  return out;
+}
+
+// One line per connection: the driven end and its shape, what drives it with its shape and range texts.
+std::string connectionsOf(const Netlist& netlist) {
+  std::string out;
+  for (const NetlistConnection& c : netlist.connections()) {
+    out += c.ownInstance.str() + "." + c.ownPort.str() + " (" + join(testing::textsOf(c.own)) + ") <- " +
+           c.peerName.str() + " (" + join(testing::textsOf(c.peer)) + ") " + c.peerRowsRange.str() +
+           c.peerBitsRange.str();
+    if (c.role != ConversionRole::kNone)
+      out += c.role == ConversionRole::kRowSide ? " row side" : " flat side";
+    out += "\n";
+  }
+  return out;
+}
+
+std::string subModulePortsOf(const Netlist& netlist) {
+  std::string out;
+  for (const SubModulePort& p : netlist.subModulePorts()) {
+    out += p.moduleName.str() + "." + p.portName.str() + " " + join(testing::textsOf(p.shape)) + " " +
+           subModuleDirectionWord(p.direction) + (p.scalar ? " scalar" : "") + "\n";
+  }
+  return out;
+}
+
+struct Built {
+  CnxDescription description;
+  Netlist netlist;
 };
 
-const char* const kHead = "GENERATION: STANDARD\nVERSION: WM1.0\n";
+Built build(const std::string& body, const std::string& signature = "pvx_counter") {
+  TempDir work;
+  RecordingInterface ui;
+  Built built;
+  EXPECT_TRUE(
+      testing::readCnxText("v", "GENERATION: STANDARD\nVERSION: WM1.0\n" + body, work, ui, built.description))
+      << work.read("v.cnxerr");
+  built.netlist = buildNetlist(built.description, signature);
+  return built;
+}
 
-class NetlistTest : public ::testing::Test {
- protected:
-  // Reads a description body (after the generation and version lines) and makes the writer.
-  NetlistWriter& read(const std::string& body, const std::string& signature = "pvx_counter") {
-    EXPECT_TRUE(testing::readCnxText("v", kHead + body, work_, ui_, description_)) << work_.read("v.cnxerr");
-    writer_.emplace(ui_, work_.path("v"), signature, description_);
-    return *writer_;
-  }
-  NetlistWriter& readCorpus(const std::string& name) {
-    EXPECT_TRUE(testing::readCorpusCase(name, work_, ui_, description_));
-    writer_.emplace(ui_, work_.path(name), testing::kCorpusSignature, description_);
-    return *writer_;
-  }
-  const NetlistConnection* connectionTo(const std::string& instance, const std::string& port) {
-    for (const NetlistConnection& c : writer_->connections) {
-      if (c.ownInstance == instance && c.ownPort == port) return &c;
-    }
-    return nullptr;
-  }
-
-  TempDir work_;
-  RecordingInterface ui_;
-  CnxDescription description_;
-  std::optional<NetlistWriter> writer_;
+struct Case {
+  const char* rule;
+  std::string body;
+  std::string wires;
+  std::string connections;
 };
 
-TEST_F(NetlistTest, OneDrivingSliceFeedingTwoPortsSharesOneWire) {
-  NetlistWriter& w = readCorpus("two_modules");
-  w.buildNetlist();
-  ASSERT_EQ(w.wires.size(), 2u);
-  const NetlistWire& shared = w.wires[0];
-  EXPECT_EQ(shared.name, "sub_wire0");
-  EXPECT_EQ(shared.sourceKey, "cnt_component.q[3:0]");
-  EXPECT_EQ(shared.useCount, 2);
-  EXPECT_EQ(w.wires[1].name, "sub_wire1");
-  EXPECT_EQ(w.wireCounter, 2);
-  EXPECT_EQ(connectionTo("shf", "data")->peerName, "sub_wire0");
-  // Every driving end is now a port or a wire.
-  for (const NetlistConnection& c : w.connections) {
-    EXPECT_TRUE(c.peerInstance.empty() && !c.peerInverted && !c.peerIsConstant) << c.ownPort;
+// What each kind of driving end becomes. Wires are numbered in the order they are made, without gaps.
+const Case kCases[] = {
+    {"a sub-module output used twice with the same range is one wire",
+     "MODULE: pvx_counter cnt\nMODULE: pvx_shifter shf\n"
+     "CONNECT: shf@data 0 0 4 0 cnt@q 0 0 4 0\nCONNECT: q 0 0 4 4 cnt@q 0 0 4 0\n"
+     "CONNECT: q 0 0 4 0 shf@q 0 0 4 0\n",
+     "sub_wire0 cnt_component.q[3:0] port q 0/4 x2\n"
+     "sub_wire1 shf_component.q[3:0] port q 0/4 x1\n",
+     ".q (0 0 4 4) <- sub_wire0 (0 0 4 0) [3:0]\n"
+     ".q (0 0 4 0) <- sub_wire1 (0 0 4 0) [3:0]\n"
+     "shf.data (0 0 4 0) <- sub_wire0 (0 0 4 0) [3:0]\n"},
+    {"a constant takes the shape of the port it drives; the same constant of the same shape shares a wire",
+     "MODULE: m\nCONNECT: m@d 0 0 8 0 GND 0 0 0 0\nCONNECT: m@e 0 0 8 0 GND 0 0 0 0\n"
+     "CONNECT: m@f 0 0 0 0 !VCC 0 0 0 0\n",
+     "sub_wire0 GND port GND 0/0 x1 constant\n"
+     "sub_wire1 GND[7:0] port GND 0/8 x2 constant\n",
+     "m.f (0 0 0 0) <- sub_wire0 (0 0 0 0) \n"
+     "m.d (0 0 8 0) <- sub_wire1 (0 0 8 0) [7:0]\n"
+     "m.e (0 0 8 0) <- sub_wire1 (0 0 8 0) [7:0]\n"},
+    {"an inverted port is found by its inverted key and carries the plain one; the plain use needs no wire",
+     "MODULE: m\nCONNECT: m@a 0 0 0 0 a 0 0 0 0\nCONNECT: m@b 0 0 0 0 !a 0 0 0 0\n"
+     "CONNECT: m@c 0 0 0 0 !a 0 0 0 0\n",
+     "sub_wire0 !a from a port a 0/0 x2 inverted\n",
+     "m.a (0 0 0 0) <- a (0 0 0 0) \n"
+     "m.b (0 0 0 0) <- sub_wire0 (0 0 0 0) \n"
+     "m.c (0 0 0 0) <- sub_wire0 (0 0 0 0) \n"},
+    {"without CONNECT: lines the netlist is empty", "MODULE: m\nUSED_PORT: a 0 0 0 0 INPUT NODEFVAL\n", "",
+     ""},
+    {"slices of a variation input feeding parts of a sub-module port travel on one wire of the input's width",
+     "MODULE: m\nUSED_PORT: x 0 0 8 0 INPUT NODEFVAL\n"
+     "CONNECT: m@d 0 0 2 2 x 0 0 4 4\nCONNECT: m@d 0 0 2 0 x 0 0 4 2\n",
+     "sub_wire0 x[7:4] port x 0/8 x1\n",
+     "m.d (0 0 2 2) <- sub_wire0 (0 0 8 4) [7:0]\n"
+     "m.d (0 0 2 0) <- sub_wire0 (0 0 8 2) [7:0]\n"},
+    {"one bit of a variation port driving a bus gets a wire of the bus's width; a sub-module output keeps "
+     "its "
+     "own width",
+     "MODULE: m\nMODULE: n u\nCONNECT: m@d 0 0 4 0 a 0 0 0 0\nCONNECT: m@e 0 0 4 0 u@b 0 0 0 0\n",
+     "sub_wire0 a port a 0/4 x1\n"
+     "sub_wire1 u_component.b port b 0/0 x1\n",
+     "m.d (0 0 4 0) <- sub_wire0 (0 0 0 0) \n"
+     "m.e (0 0 4 0) <- sub_wire1 (0 0 0 0) \n"},
+    {"the rows of a two-dimensional port are packed: a flat-side wire joins the row wires and a row-side "
+     "record feeds the port from it",
+     "MODULE: pvx_mux m\nUSED_PORT: d0 0 0 4 0 INPUT NODEFVAL\nUSED_PORT: d1 0 0 4 0 INPUT NODEFVAL\n"
+     "CONNECT: m@data 1 0 4 0 d0 0 0 4 0\nCONNECT: m@data 1 1 4 0 d1 0 0 4 0\n",
+     "sub_wire0 d1[3:0] port d1 0/4 x1\n"
+     "sub_wire1  [0:0][8:0] port   0/8 x1\n"
+     "sub_wire2 sub_wire1[3:0] port sub_wire1 2/4 x1\n"
+     "sub_wire3 d0[3:0] port d0 0/4 x1\n",
+     ".sub_wire0 (1 1 4 0) <- d1 (0 0 4 0) [3:0]\n"
+     ".sub_wire0 & sub_wire3 (0 0 8 0) <- sub_wire1 (0 0 8 0) [0:0][8:0] flat side\n"
+     "m.data (2 0 4 0) <- sub_wire2 (0 1 4 0) [1:0][3:0] row side\n"
+     ".sub_wire3 (1 0 4 0) <- d0 (0 0 4 0) [3:0]\n"},
+};
+
+TEST(NetlistTest, DrivingEndsBecomeWires) {
+  for (const Case& c : kCases) {
+    SCOPED_TRACE(c.rule);
+    const Built built = build(c.body);
+    EXPECT_EQ(wiresOf(built.netlist), c.wires);
+    EXPECT_EQ(connectionsOf(built.netlist), c.connections);
+    EXPECT_EQ(built.netlist.packsRows(), c.connections.find("flat side") != std::string::npos);
+    EXPECT_EQ(built.netlist.nextWireNumber(), static_cast<int32_t>(built.netlist.wires().size()));
   }
 }
 
-TEST_F(NetlistTest, ConstantsTakeTheShapeOfTheDrivenPort) {
-  NetlistWriter& w = read("MODULE: m\nCONNECT: m@d 0 0 8 0 GND 0 0 0 0\nCONNECT: m@e 0 0 8 0 GND 0 0 0 0\n");
-  w.buildNetlist();
-  ASSERT_EQ(w.wires.size(), 1u);
-  EXPECT_EQ(w.wires[0].sourceKey, "GND[7:0]");
-  EXPECT_EQ(w.wires[0].drivingPort, "GND");
-  EXPECT_EQ(w.wires[0].width2, "8");
-  EXPECT_TRUE(w.wires[0].isConstant);
-  const CnxConnectionEnd& end = description_.connectionMap.find("m")->find("d")->front();
-  EXPECT_EQ(end.peerWidth2, "8");
-  EXPECT_EQ(connectionTo("m", "d")->peerRange2, "[7:0]");
+// The index of keys gives the first wire made for a key; an adjusted netlist's keys are its own.
+TEST(NetlistTest, WiresAreFoundByTheirKeys) {
+  const Built built = build("MODULE: m\nCONNECT: m@a 0 0 8 0 n@q 0 0 8 0\nCONNECT: m@b 0 0 0 0 !x 0 0 0 0\n");
+  ASSERT_NE(built.netlist.findWire("n_component.q[7:0]"), nullptr);
+  EXPECT_EQ(built.netlist.findWire("n_component.q[7:0]")->useCount, 1);
+  EXPECT_EQ(built.netlist.findWire("!x")->sourceText, "x");
+  EXPECT_EQ(built.netlist.findWire("x"), nullptr);
+  EXPECT_EQ(built.netlist.findWire("n_component.q"), nullptr);
 }
 
-TEST_F(NetlistTest, AnInvertedPortGetsItsOwnWireBesideThePlainUse) {
-  NetlistWriter& w = read(
-      "MODULE: m\nCONNECT: m@a 0 0 0 0 a 0 0 0 0\nCONNECT: m@b 0 0 0 0 !a 0 0 0 0\n"
-      "CONNECT: m@c 0 0 0 0 !a 0 0 0 0\n");
-  w.buildNetlist();
-  ASSERT_EQ(w.wires.size(), 1u);
-  EXPECT_EQ(w.wires[0].sourceText, "a");
-  EXPECT_EQ(w.wires[0].sourceKey, "!a");
-  EXPECT_TRUE(w.wires[0].isInverted);
-  EXPECT_EQ(connectionTo("m", "a")->peerName, "a");
-  EXPECT_EQ(connectionTo("m", "c")->peerName, w.wires[0].name);
-}
-
-TEST_F(NetlistTest, WithoutConnectionsOnlyTheSentinelIsThere) {
-  NetlistWriter& w = read("MODULE: m\nUSED_PORT: a 0 0 0 0 INPUT NODEFVAL\n");
-  w.buildNetlist();
-  EXPECT_TRUE(w.wires.empty());
-  ASSERT_EQ(w.connections.size(), 1u);
-  EXPECT_TRUE(w.connections[0].ownPort.empty() && w.connections[0].peerName.empty());
-  EXPECT_EQ(w.connections[0].ownWidth1, "0");
-}
-
-// Slices of one variation port feeding parts of a sub-module port travel on one wire of the port's width.
-TEST_F(NetlistTest, SlicesOfAnInputShareOneWideWire) {
-  NetlistWriter& w = read(
-      "MODULE: m\nUSED_PORT: x 0 0 8 0 INPUT NODEFVAL\n"
-      "CONNECT: m@d 0 0 2 2 x 0 0 4 4\nCONNECT: m@d 0 0 2 0 x 0 0 4 2\n");
-  w.buildNetlist();
-  ASSERT_EQ(w.wires.size(), 1u);
-  EXPECT_EQ(w.wires[0].width2, "8");
-  ASSERT_EQ(w.connections.size(), 3u);
-  for (int i = 0; i < 2; ++i) {
-    EXPECT_EQ(w.connections[i].peerName, w.wires[0].name);
-    EXPECT_EQ(w.connections[i].peerWidth2, "8");
-    EXPECT_EQ(w.connections[i].peerRange2, "[7:0]");
-  }
-}
-
-// Two rows of a two-dimensional port: a flat-side record joins the rows, a row-side record feeds the port.
-TEST_F(NetlistTest, RowsOfATwoDimensionalPortArePacked) {
-  NetlistWriter& w = readCorpus("rows_2d");
-  w.buildNetlist();
-  EXPECT_EQ(w.netlistFlag, 1);
-  int flat = 0, row = 0;
-  for (const NetlistConnection& c : w.connections) {
-    if (c.conversionRole == kConversionFlatSide) {
-      ++flat;
-      EXPECT_EQ(c.ownPort, "sub_wire1 & sub_wire4");
-      EXPECT_EQ(c.ownRange2, "[8:0]");
-      EXPECT_EQ(c.peerName, "sub_wire2");
-    } else if (c.conversionRole == kConversionRowSide) {
-      ++row;
-      EXPECT_EQ(c.ownInstance, "m");
-      EXPECT_EQ(c.ownPort, "data");
-      EXPECT_EQ(c.peerName, "sub_wire3");
-      EXPECT_EQ(c.ownWidth1, "2");  // exchanged with the peer's width at the end
-      EXPECT_EQ(c.peerWidth1, "0");
-      EXPECT_EQ(c.peerRange1, "[1:0]");
-    }
-  }
-  EXPECT_EQ(flat, 1);
-  EXPECT_EQ(row, 1);
-  // The row records themselves now assign the row wires from the variation ports.
-  const NetlistConnection* first = connectionTo("", "sub_wire1");
-  ASSERT_NE(first, nullptr);
-  EXPECT_EQ(first->peerName, "d1");
-  ASSERT_NE(connectionTo("", "sub_wire4"), nullptr);
-  EXPECT_EQ(w.wires[3].width1, "2");
-  EXPECT_EQ(w.wires[3].width2, "4");
-}
-
-TEST_F(NetlistTest, NewWiresAreNumberedWithoutGaps) {
-  NetlistWriter& w = read("MODULE: m\n");
-  EXPECT_EQ(w.newWire("", "k", "p", "0", "0", false, false), "");
-  EXPECT_EQ(w.newWire("a", "a", "a", "0", "0", false, false), "sub_wire0");
-  EXPECT_EQ(w.newWire("b", "b", "b", "0", "4", false, false), "sub_wire1");
-  EXPECT_EQ(w.wires.size(), 2u);
-  EXPECT_EQ(w.wires[1].useCount, 1);
-}
-
-// A single bit driving a bus takes the bus's widths; inverted, the inverting wire is fed by the plain one.
-TEST_F(NetlistTest, OneBitDrivingABus) {
-  NetlistWriter& w = read("MODULE: m\n");
-  NetlistConnection c;
-  c.ownInstance = "m";
-  c.ownPort = "d";
-  c.ownWidth2 = "4";
-  c.peerName = "a";
-  EXPECT_EQ(w.wireForBitToBus(c), "sub_wire0");
-  EXPECT_EQ(w.wires[0].width2, "4");
-  c.peerInstance = "n";
-  c.peerInverted = true;
-  c.peerWidth2 = "1";
-  c.peerRange2 = "[3:3]";
-  EXPECT_EQ(w.wireForBitToBus(c), "sub_wire2");
-  ASSERT_EQ(w.wires.size(), 3u);
-  EXPECT_EQ(w.wires[1].sourceKey, "n_component.a[3:3]");
-  EXPECT_EQ(w.wires[1].width2, "4");
-  EXPECT_EQ(w.wires[2].sourceText, "sub_wire1[3:3]");
-  EXPECT_EQ(w.wires[2].sourceKey, "!n_component.a[3:3]");
-  EXPECT_EQ(w.wires[2].drivingPort, "sub_wire1");
-  EXPECT_EQ(w.wires[2].width2, "1");
-  EXPECT_EQ(w.wireForBitToBus(c), "sub_wire2");
-  EXPECT_EQ(w.wires[2].useCount, 2);
-}
-
-TEST_F(NetlistTest, MainModuleWiresTakeThePortsWidths) {
-  NetlistWriter& w = read("MODULE: m\nUSED_PORT: @q 0 0 8 0 OUTPUT NODEFVAL\n", "Pvx_Counter");
-  w.newWire("x", "pvx_counter_component.q[3:0]", "q", "0", "4", false, false);
-  w.newWire("y", "Pvx_Counter_component.q[3:0]", "q", "0", "4", false, false);
-  EXPECT_TRUE(w.fixMainModuleWire(w.wires[0]));
-  EXPECT_EQ(w.wires[0].width2, "8");
-  EXPECT_EQ(w.wires[0].sourceKey, "pvx_counter_component.q[7:0]");
-  EXPECT_EQ(w.wires[0].sourceText, "pvx_counter_component.q[7:0]");
-  // The comparison text is lower case; a key that is not does not match.
-  EXPECT_FALSE(w.fixMainModuleWire(w.wires[1]));
-}
-
-// The side index must give what a scan from the front gives, also after keys changed.
-TEST_F(NetlistTest, FindWireGivesTheFirstWireWithTheKey) {
-  NetlistWriter& w = read("MODULE: m\nUSED_PORT: @q 0 0 8 0 OUTPUT NODEFVAL\n");
-  w.newWire("s", "pvx_counter_component.q[3:0]", "q", "0", "4", false, false);
-  w.newWire("t", "pvx_counter_component.q[7:0]", "q", "0", "8", false, false);
-  EXPECT_EQ(w.findWire("pvx_counter_component.q[7:0]")->name, "sub_wire1");
-  ASSERT_TRUE(w.fixMainModuleWire(w.wires[0]));
-  EXPECT_EQ(w.findWire("pvx_counter_component.q[7:0]")->name, "sub_wire0");
-  EXPECT_EQ(w.findWire("pvx_counter_component.q[3:0]"), nullptr);
-  NetlistWire appended;
-  appended.sourceKey = "late";
-  appended.name = "late_wire";
-  w.wires.push_back(appended);
-  EXPECT_EQ(w.findWire("late")->name, "late_wire");
-  // A writer that empties its lists and builds again finds the new wires, not the old ones.
-  w.wires.clear();
-  for (const char* key : {"n0", "n1", "n2", "n3"}) w.newWire(key, key, key, "0", "0", false, false);
-  ASSERT_NE(w.findWire("n0"), nullptr);
-  EXPECT_EQ(w.findWire("n0")->name, "sub_wire2");
-  EXPECT_EQ(w.findWire("late"), nullptr);
-}
-
-TEST_F(NetlistTest, SubModulePortsMergeDirectionsAndBounds) {
-  NetlistWriter& w = read(
-      "MODULE: pvx_counter a\nMODULE: pvx_counter b\n"
+// Ports of every instance of a module merge: a driven and driving port is INOUT, and so is a port that
+// drives a bidirectional variation port; a bound changes only for a strictly larger width or a strictly
+// smaller low index (so a symbolic BASE survives a tie with 0); the modulon's own "@" ports give theirs.
+TEST(NetlistTest, SubModulePortsMergeOverInstances) {
+  const Built built = build(
+      "MODULE: pvx_counter\nMODULE: pvx_counter b\nMODULE: pvx_reg r\n"
       "USED_PORT: io 0 0 0 0 BIDIR NODEFVAL\nUSED_PORT: @d 0 0 16 0 INPUT NODEFVAL\n"
-      "CONNECT: a@d 0 0 4 4 x 0 0 4 0\nCONNECT: b@d 0 0 2 0 y 0 0 2 0\n"
-      "CONNECT: z 0 0 0 0 a@d 0 0 0 0\nCONNECT: a@e 0 0 0 0 w 0 0 0 0\n"
-      "CONNECT: io 0 0 0 0 b@f 0 0 0 0\n",
+      "CONNECT: @d 0 0 4 4 x 0 0 4 0\nCONNECT: b@d 0 0 2 0 y 0 0 2 0\nCONNECT: z 0 0 0 0 @d 0 0 0 0\n"
+      "CONNECT: @e 0 0 0 0 w 0 0 0 0\nCONNECT: io 0 0 0 0 b@f 0 0 0 0\n"
+      "CONNECT: r@data 2 1 8 BASE v 2 0 8 0\nCONNECT: r@data 2 0 W 0 v 2 0 8 0\n",
       "PVX_counter");
-  w.buildSubModulePorts();
-  ASSERT_EQ(w.subModulePorts.size(), 3u);
-  const SubModulePort* d = nullptr;
-  for (const SubModulePort& p : w.subModulePorts) {
-    if (p.portName == "d") d = &p;
-    if (p.portName == "e") {
-      EXPECT_EQ(p.directionWord, "IN");
-    } else if (p.portName == "f") {
-      EXPECT_EQ(p.directionWord, "INOUT");  // it drives a bidirectional port
-    }
-    if (p.portName != "d") {
-      EXPECT_TRUE(p.scalar);
-    }
-  }
-  ASSERT_NE(d, nullptr);
-  EXPECT_EQ(d->directionWord, "INOUT");  // driven and driving
-  EXPECT_FALSE(d->scalar);
-  // The main module's "@" port gives the widths in the end.
-  EXPECT_EQ(d->width2, "16");
-  EXPECT_EQ(d->low2, "0");
+  EXPECT_EQ(subModulePortsOf(built.netlist),
+            "pvx_counter.d 0 0 16 0 INOUT\n"
+            "pvx_counter.e 0 0 0 0 IN scalar\n"
+            "pvx_counter.f 0 0 0 0 INOUT scalar\n"
+            "pvx_reg.data 3 0 8 BASE IN\n");
 }
 
-// A merge changes a stored bound only for a strictly larger width or a strictly smaller low index, so a
-// symbolic low index survives a tie with a number, and building again changes nothing.
-TEST_F(NetlistTest, SubModulePortBoundsKeepTheirTextOnATie) {
-  NetlistWriter& w = read(
-      "MODULE: pvx_reg\nMODULE: pvx_reg r2\nUSED_PORT: d 0 0 8 0 INPUT NODEFVAL\n"
-      "CONNECT: @data 0 0 8 BASE d 0 0 8 0\nCONNECT: r2@data 0 0 8 0 d 0 0 8 0\n"
-      "CONNECT: r2@data 0 0 4 BASE d 0 0 4 0\n");
-  w.buildSubModulePorts();
-  ASSERT_EQ(w.subModulePorts.size(), 1u);
-  EXPECT_EQ(w.subModulePorts[0].width2, "8");
-  EXPECT_EQ(w.subModulePorts[0].low2, "BASE");
-  w.buildSubModulePorts();
-  ASSERT_EQ(w.subModulePorts.size(), 1u);
-  EXPECT_EQ(w.subModulePorts[0].low2, "BASE");
+TEST(NetlistTest, MainModuleWiresWidenToTheirPort) {
+  const Built built =
+      build("MODULE: m\nUSED_PORT: @q 0 0 8 0 OUTPUT NODEFVAL\nUSED_PORT: @r 1 0 4 0 OUTPUT x\n");
+  const MainModuleWidening widening(built.description, "Pvx_Counter");
+  TextPool texts;
+  struct Probe {
+    std::string key;
+    bool widened;
+    std::string widenedKey;
+  };
+  // The modulon's name and the port are compared in lower case with the key cut before its first "[".
+  const Probe probes[] = {{"pvx_counter_component.q[3:0]", true, "pvx_counter_component.q[7:0]"},
+                          {"pvx_counter_component.r", true, "pvx_counter_component.r[0:0][3:0]"},
+                          {"Pvx_Counter_component.q[3:0]", false, ""},
+                          {"!pvx_counter_component.q", false, ""}};
+  for (const Probe& probe : probes) {
+    SCOPED_TRACE(probe.key);
+    NetlistWire wire;
+    wire.sourceKey = texts.intern(probe.key);
+    EXPECT_EQ(widening.widen(wire, texts), probe.widened);
+    if (!probe.widened) continue;
+    EXPECT_EQ(wire.sourceKey, probe.widenedKey);
+    EXPECT_EQ(wire.sourceText, probe.widenedKey);
+  }
 }
 
 }  // namespace

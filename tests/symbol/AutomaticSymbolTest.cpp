@@ -2,6 +2,7 @@
 // over, and the symbol file the drawing library lays out.
 #include <gtest/gtest.h>
 
+#include "../corpus/CorpusCase.h"
 #include "GioTraceCapture.h"
 #include "RecordingInterface.h"
 #include "symbol/AutomaticSymbol.h"
@@ -12,32 +13,20 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-CnxUsedPort port(const std::string& name, const std::string& direction, const std::string& width1 = "0",
-                 const std::string& low1 = "0", const std::string& width2 = "0",
-                 const std::string& low2 = "0") {
-  CnxUsedPort p;
-  p.name = name;
-  p.direction = direction;
-  p.width1 = width1;
-  p.low1 = low1;
-  p.width2 = width2;
-  p.low2 = low2;
-  p.defaultValue = "NODEFVAL";
-  return p;
-}
-
-CnxParameter parameter(const std::string& name, const std::string& value) {
-  return CnxParameter{name, "NUMERIC", value, ""};
+// The description of a CNX body; the samples have no MODULE: line, which the symbol does not need.
+CnxDescription descriptionOf(const std::string& body) {
+  testing::TempDir work;
+  testing::RecordingInterface ui;
+  CnxDescription d;
+  testing::readCnxText("v", "GENERATION: STANDARD\nVERSION: WM1.0\n" + body, work, ui, d);
+  return d;
 }
 
 // A register: data[7..0] in, q[7..0] out, WIDTH=8 and a DIRECTION without a default.
 CnxDescription registerDescription() {
-  CnxDescription d;
-  d.inputPorts.push_back(port("data", "INPUT", "8", "0"));
-  d.outputPorts.push_back(port("q", "OUTPUT", "8", "0"));
-  d.parameters.push_back(parameter("WIDTH", "8"));
-  d.parameters.push_back(parameter("DIRECTION", "NODEFVAL"));
-  return d;
+  return descriptionOf(
+      "USED_PORT: data 8 0 0 0 INPUT NODEFVAL\nUSED_PORT: q 8 0 0 0 OUTPUT NODEFVAL\n"
+      "PARAMETER: WIDTH NUMERIC 8\nPARAMETER: DIRECTION NUMERIC NODEFVAL\n");
 }
 
 TEST(AutomaticSymbol, RegisterGivesItsPinsInOrderAndTheParameterText) {
@@ -58,31 +47,24 @@ TEST(AutomaticSymbol, RegisterGivesItsPinsInOrderAndTheParameterText) {
 TEST(AutomaticSymbol, PinNamesCarryBothRangesAndTypesFollowTheDirection) {
   testing::GioTraceCapture trace;
   testing::RecordingInterface ui;
-  CnxDescription d;
-  d.inputPorts.push_back(port("clk", "INPUT"));
-  d.inputPorts.back().tag = "CLOCK";
-  d.inputPorts.push_back(port("m", "INPUT", "4", "2", "3", "0"));
-  d.outputPorts.push_back(port("io", "BIDIR", "2", "1"));
-  d.outputPorts.push_back(port("odd", "SOMETHING"));
-  d.mainModulePorts.push_back(port("inner", "INPUT"));
+  const CnxDescription d = descriptionOf(
+      "USED_PORT: clk 0 0 0 0 INPUT NODEFVAL CLOCK\nUSED_PORT: m 4 2 3 0 INPUT NODEFVAL\n"
+      "USED_PORT: io 2 1 0 0 BIDIR NODEFVAL\nUSED_PORT: y 0 0 WIDTH 0 OUTPUT NODEFVAL\n"
+      "USED_PORT: @inner 0 0 0 0 INPUT NODEFVAL\n");
   SymbolBuilder(ui, trace.dir() + "mix", d).buildSymbol();
   const Lines lines = trace.take();
   ASSERT_EQ(lines.size(), 6u);
   EXPECT_EQ(lines[1], "gio_sym_add_pin_stub_w_alt_text(\"CLOCK\", \"clk\", 2, 1) -> 1");
   EXPECT_EQ(lines[2], "gio_sym_add_pin_stub_w_alt_text(\"\", \"m[5..2][2..0]\", 2, 1) -> 1");
   EXPECT_EQ(lines[3], "gio_sym_add_pin_stub_w_alt_text(\"\", \"io[2..1]\", 4, 1) -> 1");
-  EXPECT_EQ(lines[4], "gio_sym_add_pin_stub_w_alt_text(\"\", \"odd\", 0, 1) -> 1");
+  EXPECT_EQ(lines[4], "gio_sym_add_pin_stub_w_alt_text(\"\", \"y[WIDTH-1..0]\", 3, 1) -> 1");
   EXPECT_EQ(lines[5], "gio_sym_auto_gen_sym_w_params_w_alt_text(1, \"\") -> 1");
 }
 
-TEST(AutomaticSymbol, TextsOfPinsAndParameters) {
-  EXPECT_EQ(pinNameOf(port("a", "INPUT", "0", "5", "3", "1")), "a[3..1]");
-  EXPECT_EQ(pinNameOf(port("w", "INPUT", "WIDTH", "0")), "w[WIDTH-1..0]");
-  CnxDescription d;
-  EXPECT_EQ(parameterTextOf(d), "");
-  d.parameters.push_back(parameter("A", ""));
-  d.parameters.push_back(parameter("B", "nodefval"));
-  EXPECT_EQ(parameterTextOf(d), "A=\nB=nodefval");
+TEST(AutomaticSymbol, ParameterText) {
+  EXPECT_EQ(parameterTextOf(CnxDescription{}), "");
+  EXPECT_EQ(parameterTextOf(descriptionOf("PARAMETER: A NUMERIC\nPARAMETER: B NUMERIC nodefval\n")),
+            "A=\nB=nodefval");
 }
 
 // A directory that does not exist makes the drawing library report an error; the instance is given back and

@@ -5,7 +5,7 @@
 
 #include "GioTraceCapture.h"
 #include "RecordingInterface.h"
-#include "cnx/CnxDescription.h"
+#include "cnx/CnxReader.h"
 #include "symbol/SymbolBuilder.h"
 
 namespace plovix {
@@ -18,8 +18,9 @@ Lines symbolCallsOf(testing::GioTraceCapture& trace, const std::string& cnx) {
   testing::TempDir temp;
   temp.write("var.cnx", cnx);
   testing::RecordingInterface ui;
-  CnxDescription description(temp.path("var.cnx"));
-  EXPECT_TRUE(description.readDescription(ui)) << (ui.boxes.empty() ? "" : ui.boxes.front());
+  CnxReader reader(ui, temp.path("var.cnx"));
+  EXPECT_TRUE(reader.read()) << (ui.boxes.empty() ? "" : ui.boxes.front());
+  const CnxDescription description = reader.takeDescription();
   EXPECT_TRUE(SymbolBuilder(ui, trace.dir() + "var", description).buildSymbol());
   return trace.take();
 }

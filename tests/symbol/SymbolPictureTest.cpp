@@ -10,6 +10,7 @@
 #include <regex>
 #include <sstream>
 
+#include "../corpus/CorpusCase.h"
 #include "RecordingInterface.h"
 #include "TempDir.h"
 #include "plovix_host.h"
@@ -124,19 +125,17 @@ void expectTextsClear(const std::string& symPath) {
   }
 }
 
-CnxUsedPort port(const std::string& name, const std::string& direction, const std::string& width) {
-  CnxUsedPort p;
-  p.name = name;
-  p.direction = direction;
-  p.width1 = width;
-  return p;
-}
-
 TEST(SymbolPicture, AutomaticCounter) {
+  testing::TempDir work;
+  testing::RecordingInterface ui;
   CnxDescription d;
-  d.inputPorts = {port("clock", "INPUT", "0"), port("data", "INPUT", "8"), port("sload", "INPUT", "0")};
-  d.outputPorts = {port("q", "OUTPUT", "8"), port("cout", "OUTPUT", "0"), port("bus", "BIDIR", "4")};
-  d.parameters = {{"WIDTH", "NUMERIC", "8", ""}, {"DIRECTION", "STRING", "NODEFVAL", ""}};
+  testing::readCnxText("counter",
+                       "GENERATION: STANDARD\nVERSION: WM1.0\n"
+                       "USED_PORT: clock 0 0 0 0 INPUT NODEFVAL\nUSED_PORT: data 8 0 0 0 INPUT NODEFVAL\n"
+                       "USED_PORT: sload 0 0 0 0 INPUT NODEFVAL\nUSED_PORT: q 8 0 0 0 OUTPUT NODEFVAL\n"
+                       "USED_PORT: cout 0 0 0 0 OUTPUT NODEFVAL\nUSED_PORT: bus 4 0 0 0 BIDIR NODEFVAL\n"
+                       "PARAMETER: WIDTH NUMERIC 8\nPARAMETER: DIRECTION STRING NODEFVAL\n",
+                       work, ui, d);
   const std::string svg = buildAndRender("automatic_counter", d);
   for (const char* piece : {">automatic_counter<", ">clock<", ">data[7..0]<", ">q[7..0]<", ">bus[3..0]<"})
     EXPECT_NE(svg.find(piece), std::string::npos) << piece;
@@ -229,8 +228,11 @@ TEST(SymbolPicture, BundledConstantModulon) {
 TEST(SymbolPicture, RenderSymbolCommandPrintsThePicture) {
   const std::string plovix = std::string(PLOVIX_BINARY_DIR) + "/cli/plovix";
   if (!std::filesystem::exists(plovix)) GTEST_SKIP() << "the plovix command is not built";
+  testing::TempDir work;
+  testing::RecordingInterface ui;
   CnxDescription d;
-  d.inputPorts = {port("a", "INPUT", "0")};
+  testing::readCnxText(
+      "command", "GENERATION: STANDARD\nVERSION: WM1.0\nUSED_PORT: a 0 0 0 0 INPUT NODEFVAL\n", work, ui, d);
   const std::string svg = buildAndRender("command", d);
   const std::string base = artifactDir() + "command";
   const std::string render =

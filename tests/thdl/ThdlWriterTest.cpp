@@ -14,9 +14,8 @@
 namespace plovix {
 namespace {
 
-using testing::connect;
+using testing::descriptionOf;
 using testing::kExpectedNotice;
-using testing::usedPort;
 
 const std::string kRules = "-- ============================================================\n";
 const std::string kWarning =
@@ -34,7 +33,7 @@ struct Writer {
 };
 
 // The design text after the header and the legal notice.
-std::string bodyOf(ThdlFileWriter& writer) {
+std::string bodyOf(const ThdlFileWriter& writer) {
   const std::string text = writer.designText();
   const std::string prefix = writer.headerText() + "\n" + kExpectedNotice + "\n";
   EXPECT_EQ(text.substr(0, prefix.size()), prefix);
@@ -98,21 +97,16 @@ TEST(ThdlWriter, CounterWithParametersAndConstants) {
 
 // Two MODULE lines of one module: two module lines and two instances, but one name line and one include.
 TEST(ThdlWriter, TwoInstancesOfOneModule) {
-  CnxDescription d;
-  d.version = "WM1.0";
-  d.mainModuleName = "LPM_FF";
-  d.modules = {{"LPM_FF", "ff_a", "ff_a"}, {"LPM_FF", "ff_b", "ff_b"}};
-  d.moduleNames = {"LPM_FF"};
-  d.parameters = {{"WIDTH", "NUMERIC", "4", ""}, {"SYNC", "STRING", "YES", "ff_b"}};
-  d.constants = {{"LPM_FFTYPE", "STRING", "DFF", "ff_a"}, {"LPM_WIDTH", "NUMERIC", "4", ""}};
-  d.inputPorts = {usedPort("Data", "INPUT", "NODEFVAL", "4", "0"), usedPort("clk", "INPUT")};
-  d.outputPorts = {usedPort("q", "OUTPUT", "NODEFVAL", "4", "0")};
-  connect(d, {"ff_a", "data", "4", "0"}, {"", "Data", "4", "0"});
-  connect(d, {"ff_b", "data", "4", "0"}, {"ff_a", "q", "4", "0"});
-  connect(d, {"ff_a", "clock"}, {"", "clk"});
-  connect(d, {"ff_b", "clock"}, {"", "clk"});
-  connect(d, {"", "q", "4", "0"}, {"ff_b", "q", "4", "0"});
-  Writer w(std::move(d), "rel/pipe", "lpm_ff");
+  Writer w(
+      descriptionOf("MODULE: LPM_FF ff_a\nMODULE: LPM_FF ff_b\n"
+                    "PARAMETER: WIDTH NUMERIC 4\nPARAMETER: SYNC STRING YES ff_b\n"
+                    "CONSTANT: LPM_FFTYPE STRING DFF ff_a\nCONSTANT: LPM_WIDTH NUMERIC 4\n"
+                    "USED_PORT: Data 0 0 4 0 INPUT NODEFVAL\nUSED_PORT: clk 0 0 0 0 INPUT NODEFVAL\n"
+                    "USED_PORT: q 0 0 4 0 OUTPUT NODEFVAL\n"
+                    "CONNECT: ff_a@data 0 0 4 0 Data 0 0 4 0\nCONNECT: ff_b@data 0 0 4 0 ff_a@q 0 0 4 0\n"
+                    "CONNECT: ff_a@clock 0 0 0 0 clk 0 0 0 0\nCONNECT: ff_b@clock 0 0 0 0 clk 0 0 0 0\n"
+                    "CONNECT: q 0 0 4 0 ff_b@q 0 0 4 0\n"),
+      "rel/pipe", "lpm_ff");
 
   EXPECT_EQ(w.writer.headerText(),
             "-- modulon wizard: %lpm_ff%\n"
@@ -158,20 +152,14 @@ TEST(ThdlWriter, TwoInstancesOfOneModule) {
 
 // Inverted, constant and numeric drivers, and slices of one port driven by several lines.
 TEST(ThdlWriter, InvertedAndConstantDrivers) {
-  CnxDescription d;
-  d.mainModuleName = "lpm_mux";
-  d.modules = {{"lpm_mux", "lpm_mux", ""}};
-  d.moduleNames = {"lpm_mux"};
-  d.inputPorts = {usedPort("sel", "INPUT", "NODEFVAL", "2", "0"), usedPort("en_n", "INPUT", "VCC")};
-  d.outputPorts = {usedPort("result", "OUTPUT", "NODEFVAL", "8", "0"), usedPort("busy", "BIDIR", "GND")};
-  connect(d, {"lpm_mux", "sel", "2", "0"}, {"", "sel", "2", "0"});
-  connect(d, {"lpm_mux", "enable"}, {"", "en_n"}, true);
-  connect(d, {"lpm_mux", "aclr"}, {"", "GND"}, false, true);
-  connect(d, {"lpm_mux", "data", "4", "4"}, {"", "VCC"}, false, true);
-  connect(d, {"lpm_mux", "data", "4", "0"}, {"", "5"}, false, true);
-  connect(d, {"", "result", "8", "0"}, {"lpm_mux", "result", "8", "0"}, true);
-  connect(d, {"", "busy"}, {"lpm_mux", "busy"});
-  Writer w(std::move(d), "mux2", "lpm_mux");
+  Writer w(descriptionOf("MODULE: lpm_mux\n"
+                         "USED_PORT: sel 0 0 2 0 INPUT NODEFVAL\nUSED_PORT: en_n 0 0 0 0 INPUT VCC\n"
+                         "USED_PORT: result 0 0 8 0 OUTPUT NODEFVAL\nUSED_PORT: busy 0 0 0 0 BIDIR GND\n"
+                         "CONNECT: @sel 0 0 2 0 sel 0 0 2 0\nCONNECT: @enable 0 0 0 0 !en_n 0 0 0 0\n"
+                         "CONNECT: @aclr 0 0 0 0 GND 0 0 0 0\nCONNECT: @data 0 0 4 4 VCC 0 0 0 0\n"
+                         "CONNECT: @data 0 0 4 0 5 0 0 0 0\nCONNECT: result 0 0 8 0 !@result 0 0 8 0\n"
+                         "CONNECT: busy 0 0 0 0 @busy 0 0 0 0\n"),
+           "mux2", "lpm_mux");
 
   const std::string body = bodyOf(w.writer);
   // Ports in the connection map's bucket order (enable and sel share a bucket, the newer first).
@@ -195,20 +183,17 @@ TEST(ThdlWriter, InvertedAndConstantDrivers) {
 
 // A width given by a name keeps its expression in ranges and counts as no bus in the template.
 TEST(ThdlWriter, SymbolicWidth) {
-  CnxDescription d;
-  d.inputPorts = {usedPort("s", "INPUT", "NODEFVAL", "WIDTHS", "1")};
-  d.outputPorts = {usedPort("y", "OUTPUT", "NODEFVAL", "N", "0")};
-  Writer w(std::move(d), "pass", "pass");
+  Writer w(descriptionOf("USED_PORT: s 0 0 WIDTHS 1 INPUT NODEFVAL\nUSED_PORT: y 0 0 N 0 OUTPUT NODEFVAL\n"),
+           "pass", "pass");
   EXPECT_NE(bodyOf(w.writer).find("\ts[WIDTHS..1]\t : INPUT;\n\ty[N-1..0]\t : OUTPUT;\n"), std::string::npos);
   EXPECT_EQ(w.writer.buildInstanceText(), "(\n\ty_sig\n) = pass\t(\n\t.s = s_sig\n)\nRETURNS (\n\t.y\n);\n");
 }
 
 TEST(ThdlWriter, VariationWithoutSubModules) {
-  CnxDescription d;
-  d.version = "WM2.0";
-  d.inputPorts = {usedPort("a", "INPUT")};
-  d.outputPorts = {usedPort("b", "OUTPUT")};
-  connect(d, {"", "b"}, {"", "a"}, true);
+  CnxDescription d = descriptionOf(
+      "USED_PORT: a 0 0 0 0 INPUT NODEFVAL\nUSED_PORT: b 0 0 0 0 OUTPUT NODEFVAL\nCONNECT: b 0 0 0 0 !a 0 0 "
+      "0 0\n");
+  d.version = "WM2.0";  // the header repeats the description's version, whatever it is
   Writer w(std::move(d), "/designs/inv", "inverter");
 
   EXPECT_EQ(w.writer.headerText(),
@@ -226,15 +211,19 @@ TEST(ThdlWriter, VariationWithoutSubModules) {
 }
 
 TEST(ThdlWriter, TextRules) {
-  EXPECT_EQ(thdlGroupRange("0", "3"), "");
-  EXPECT_EQ(thdlGroupRange("1", "3"), "[3..3]");
-  EXPECT_EQ(thdlGroupRange("8", "0"), "[7..0]");
-  EXPECT_EQ(thdlGroupRange("WIDTH", "0"), "[WIDTH-1..0]");
-  EXPECT_EQ(thdlParameterValue("NUMERIC", "12"), "12");
-  EXPECT_EQ(thdlParameterValue("STRING", ""), "\"\"");
-  EXPECT_EQ(thdlParameterValue("numeric", "12"), "\"12\"");
-  EXPECT_EQ(thdlReference("", "GND"), "GND");
-  EXPECT_EQ(thdlReference("u1", "q"), "u1_component.q");
+  TextPool texts;
+  auto range = [&texts](const std::string& width, const std::string& low) {
+    return thdlGroupRange({Bound::fromText(width, texts), Bound::fromText(low, texts)});
+  };
+  EXPECT_EQ(range("0", "3"), "");
+  EXPECT_EQ(range("1", "3"), "[3..3]");
+  EXPECT_EQ(range("8", "0"), "[7..0]");
+  EXPECT_EQ(range("WIDTH", "0"), "[WIDTH-1..0]");
+  EXPECT_EQ(range("08", "+2"), "[9..+2]");
+  EXPECT_EQ(thdlParameterValue(ValueType::kNumeric, texts.intern("12")), "12");
+  EXPECT_EQ(thdlParameterValue(ValueType::kString, Name()), "\"\"");
+  EXPECT_EQ(thdlReference(Name(), texts.intern("GND")), "GND");
+  EXPECT_EQ(thdlReference(texts.intern("u1"), texts.intern("q")), "u1_component.q");
 }
 
 // The notice that opens the include file: a first line, an empty line and 18 lines, each led by "--" and a

@@ -6,6 +6,7 @@
 #include "../corpus/CorpusCase.h"
 #include "RecordingInterface.h"
 #include "TempDir.h"
+#include "hdl/Netlist.h"
 #include "hdl/VerilogFileWriter.h"
 
 namespace plovix {
@@ -26,13 +27,14 @@ TEST_P(CorpusTexts, DesignBlackBoxAndTemplateMatchTheExpectedFiles) {
   RecordingInterface ui;
   CnxDescription description;
   ASSERT_TRUE(testing::readCorpusCase(name, work, ui, description)) << work.read(name + ".cnxerr");
-  VerilogFileWriter writer(ui, work.path(name), testing::kCorpusSignature, description);
+  const Netlist netlist = buildNetlist(description, testing::kCorpusSignature);
+  const VerilogFileWriter writer(ui, work.path(name), testing::kCorpusSignature, description, netlist);
   const std::string design = writer.buildDesignText();
   EXPECT_EQ(design, expectedText(name + ".v"));
   EXPECT_EQ(writer.buildBlackBoxText(), expectedText(name + "_bb.v"));
   EXPECT_EQ(writer.buildInstanceText(), expectedText(name + "_inst.v"));
   EXPECT_EQ(writer.buildCompanionText(), "");
-  // The netlist is made afresh for every build, so the text does not change when built again.
+  // The text depends on its inputs only.
   EXPECT_EQ(writer.buildDesignText(), design);
   EXPECT_TRUE(ui.boxes.empty());
 }
@@ -40,30 +42,35 @@ TEST_P(CorpusTexts, DesignBlackBoxAndTemplateMatchTheExpectedFiles) {
 INSTANTIATE_TEST_SUITE_P(Corpus, CorpusTexts, ::testing::ValuesIn(testing::kCorpusCases));
 
 TEST(VerilogValues, ConstantsTakeTheWidthOfTheirWire) {
-  EXPECT_EQ(verilogConstantValue("VCC", "0"), "1'H1");
-  EXPECT_EQ(verilogConstantValue("VCC", "8"), "8'H1");
-  EXPECT_EQ(verilogConstantValue("GND", "8"), "8'H0");
-  EXPECT_EQ(verilogConstantValue("5", "8"), "8'H05");
-  EXPECT_EQ(verilogConstantValue("-1", "8"), "8'HFF");
-  EXPECT_EQ(verilogConstantValue("300", "4"), "4'HC");
-  EXPECT_EQ(verilogConstantValue("5", "0"), "1'H5");  // one digit, as the width asks
+  TextPool texts;
+  auto value = [&texts](const std::string& constant, const std::string& width) {
+    return verilogConstantValue(texts.intern(constant), Bound::fromText(width, texts));
+  };
+  EXPECT_EQ(value("VCC", "0"), "1'H1");
+  EXPECT_EQ(value("VCC", "8"), "8'H1");
+  EXPECT_EQ(value("GND", "8"), "8'H0");
+  EXPECT_EQ(value("5", "8"), "8'H05");
+  EXPECT_EQ(value("-1", "8"), "8'HFF");
+  EXPECT_EQ(value("300", "4"), "4'HC");
+  EXPECT_EQ(value("5", "0"), "1'H5");  // one digit, as the width asks
   // A width that is not a decimal number counts as 0.
-  EXPECT_EQ(verilogConstantValue("GND", "WIDTH"), "0'H0");
+  EXPECT_EQ(value("GND", "WIDTH"), "0'H0");
   // Widths beyond any device keep the number but not millions of padding digits.
-  EXPECT_EQ(verilogConstantValue("5", "99999999999").substr(0, 14), "1215752191'H00");
-  EXPECT_EQ(verilogConstantValue("5", "99999999999").size(), 262144u + 12);
+  EXPECT_EQ(value("5", "99999999999").substr(0, 14), "1215752191'H00");
+  EXPECT_EQ(value("5", "99999999999").size(), 262144u + 12);
 }
 
 TEST(VerilogValues, ParametersDirectionsAndWidths) {
-  EXPECT_EQ(verilogParameterValue("NUMERIC", "12"), "12");
-  EXPECT_EQ(verilogParameterValue("STRING", "a\\b\\\\c"), "\"a\\\\b\\\\\\\\c\"");
-  EXPECT_EQ(verilogParameterValue("STRING", ""), "\"\"");
-  EXPECT_EQ(verilogDirectionWord("INPUT"), "input");
-  EXPECT_EQ(verilogDirectionWord("OUTPUT"), "output");
-  EXPECT_EQ(verilogDirectionWord("BIDIR"), "inout");
-  EXPECT_EQ(verilogDirectionWord("other"), "other");
-  EXPECT_EQ(verilogWidthNumber("16"), 16);
-  EXPECT_EQ(verilogWidthNumber("8x"), 0);
+  TextPool texts;
+  EXPECT_EQ(verilogParameterValue(ValueType::kNumeric, texts.intern("12")), "12");
+  EXPECT_EQ(verilogParameterValue(ValueType::kString, texts.intern("a\\b\\\\c")), "\"a\\\\b\\\\\\\\c\"");
+  EXPECT_EQ(verilogParameterValue(ValueType::kString, Name()), "\"\"");
+  EXPECT_STREQ(verilogDirectionWord(PortDirection::kInput), "input");
+  EXPECT_STREQ(verilogDirectionWord(PortDirection::kOutput), "output");
+  EXPECT_STREQ(verilogDirectionWord(PortDirection::kBidir), "inout");
+  EXPECT_EQ(verilogWidthNumber(Bound::fromText("16", texts)), 16);
+  EXPECT_EQ(verilogWidthNumber(Bound::fromText("-016", texts)), -16);
+  EXPECT_EQ(verilogWidthNumber(Bound::fromText("8x", texts)), 0);
 }
 
 // Two instances: parameters and constants go to the instance they target or, without a target, to every one;
@@ -87,7 +94,8 @@ CONNECT: high@clock 0 0 0 0 Clock 0 0 0 0
 CONNECT: Q 0 0 4 0 Low@q 0 0 4 0
 )",
                                    work, ui, description));
-  VerilogFileWriter writer(ui, work.path("Mixed"), "pvx_counter", description);
+  const Netlist netlist = buildNetlist(description, "pvx_counter");
+  const VerilogFileWriter writer(ui, work.path("Mixed"), "pvx_counter", description, netlist);
   const std::string text = writer.buildDesignText();
   EXPECT_NE(text.find("module Mixed (\n\tclock,\n\tq);\n\n\tinput\t  clock;\n\toutput\t[3:0]  q;\n\n"
                       "\tparameter\n\t\tWidth = 8,\n\t\tOnly = \"x\";\n\n"),
@@ -111,7 +119,8 @@ TEST(VerilogFiles, BlackBoxAndTemplateAreWrittenBesideTheDesign) {
   RecordingInterface ui;
   CnxDescription description;
   ASSERT_TRUE(testing::readCorpusCase("counter", work, ui, description));
-  VerilogFileWriter writer(ui, work.path("count8"), testing::kCorpusSignature, description);
+  const Netlist netlist = buildNetlist(description, testing::kCorpusSignature);
+  const VerilogFileWriter writer(ui, work.path("count8"), testing::kCorpusSignature, description, netlist);
   ASSERT_TRUE(writer.writeBlackBoxFile());
   ASSERT_TRUE(writer.writeInstanceFile());
   const std::string blackBox = work.read("count8_bb.v");
@@ -127,7 +136,9 @@ TEST(VerilogFiles, AnUnwritableBlackBoxIsReportedWithItsName) {
   RecordingInterface ui;
   CnxDescription description;
   ASSERT_TRUE(testing::readCorpusCase("counter", work, ui, description));
-  VerilogFileWriter writer(ui, work.path("missing/count8"), testing::kCorpusSignature, description);
+  const Netlist netlist = buildNetlist(description, testing::kCorpusSignature);
+  const VerilogFileWriter writer(ui, work.path("missing/count8"), testing::kCorpusSignature, description,
+                                 netlist);
   EXPECT_FALSE(writer.writeBlackBoxFile());
   ASSERT_EQ(ui.boxes.size(), 1u);
   EXPECT_EQ(ui.boxes[0], testing::reported(Msg::kFileNotOpened, work.path("missing/count8_bb.v")));

@@ -13,6 +13,7 @@
 #include "RecordingInterface.h"
 #include "TempDir.h"
 #include "base/TextHelpers.h"
+#include "hdl/Netlist.h"
 #include "hdl/NetlistKeys.h"
 #include "hdl/VerilogFileWriter.h"
 
@@ -72,8 +73,8 @@ std::vector<std::pair<std::string, std::string>> toolCommands(const std::string&
 std::string templateBench(const CnxDescription& description, const std::string& templateText) {
   std::string text = "module bench;\n";
   auto declare = [&](const CnxUsedPort& port) {
-    text += "\twire " + rangeText(port.width1, port.low1) + rangeText(port.width2, port.low2) + " " +
-            toLowerText(port.name) + "_sig;\n";
+    text += "\twire " + rangeText(port.shape.rows) + rangeText(port.shape.bits) + " " +
+            toLowerText(port.name.view()) + "_sig;\n";
   };
   for (const CnxUsedPort& port : description.inputPorts) declare(port);
   for (const CnxUsedPort& port : description.outputPorts) declare(port);
@@ -95,7 +96,8 @@ TEST_P(VerilogTools, GeneratedFilesAreReadByEveryTool) {
   RecordingInterface ui;
   CnxDescription description;
   ASSERT_TRUE(testing::readCorpusCase(name, work, ui, description));
-  VerilogFileWriter writer(ui, work.path(name), testing::kCorpusSignature, description);
+  const Netlist netlist = buildNetlist(description, testing::kCorpusSignature);
+  const VerilogFileWriter writer(ui, work.path(name), testing::kCorpusSignature, description, netlist);
   ASSERT_TRUE(writer.writeDesignFile());
   ASSERT_TRUE(writer.writeBlackBoxFile());
   ASSERT_TRUE(writer.writeInstanceFile());
@@ -132,7 +134,8 @@ TEST_P(VerilogSimulation, VariationsGiveTheExpectedOutputs) {
   RecordingInterface ui;
   CnxDescription description;
   ASSERT_TRUE(testing::readCorpusCase(name, work, ui, description));
-  VerilogFileWriter writer(ui, work.path(name), testing::kCorpusSignature, description);
+  const Netlist netlist = buildNetlist(description, testing::kCorpusSignature);
+  const VerilogFileWriter writer(ui, work.path(name), testing::kCorpusSignature, description, netlist);
   ASSERT_TRUE(writer.writeDesignFile());
   const ToolRun run = runIn(
       work, "iverilog -o sim.vvp -s sim " + name + ".v" + stubFiles() + " '" + bench + "' && vvp -n sim.vvp");

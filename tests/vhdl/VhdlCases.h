@@ -9,6 +9,7 @@
 #include "RecordingInterface.h"
 #include "TempDir.h"
 #include "cnx/CnxDescription.h"
+#include "hdl/Netlist.h"
 #include "hdl/VhdlFileWriter.h"
 
 namespace plovix::testing {
@@ -40,14 +41,16 @@ struct VhdlCase {
     const std::string file = vhdlCaseFile(name);
     loaded = readCnxText(name, TempDir::readFile(file), work, ui, description);
     const bool corpus = file.rfind(corpusDir(), 0) == 0;
-    writer = std::make_unique<VhdlFileWriter>(
-        ui, "/variations/" + name, corpus ? kCorpusSignature : description.mainModuleName, description);
+    const std::string signature = corpus ? kCorpusSignature : description.mainModuleName.str();
+    netlist = buildNetlist(description, signature);
+    writer = std::make_unique<VhdlFileWriter>(ui, "/variations/" + name, signature, description, netlist);
   }
 
   TempDir work;
   RecordingInterface ui;
   CnxDescription description;
   bool loaded = false;
+  Netlist netlist;
   std::unique_ptr<VhdlFileWriter> writer;
 };
 

@@ -58,7 +58,7 @@ std::string stubCommands(const CnxDescription& description) {
     if (entry.path().extension() != ".vhd") continue;
     std::string library = "work";
     for (const CnxLibrary& named : description.libraries) {
-      if (named.name == entry.path().stem().string()) library = named.name;
+      if (named.name == entry.path().stem().string()) library = named.name.str();
     }
     commands +=
         " && " + kGhdl + " -a" + kStandard + " --work=" + library + " '" + entry.path().string() + "'";
@@ -67,18 +67,17 @@ std::string stubCommands(const CnxDescription& description) {
 }
 
 // A package holding the component declaration file, under the design's library clauses.
-std::string companionPackage(VhdlFileWriter& writer, const std::string& name) {
+std::string companionPackage(const VhdlFileWriter& writer, const std::string& name) {
   return writer.libraryClausesText() + "\nPACKAGE " + name + "_components IS\n" +
          writer.buildCompanionText() + "END " + name + "_components;\n";
 }
 
 // A test bench that declares the *_sig signals of the template and the component, and holds the template.
-std::string templateBench(VhdlFileWriter& writer, const CnxDescription& description) {
+std::string templateBench(const VhdlFileWriter& writer, const CnxDescription& description) {
   std::string signals;
   for (const auto* ports : {&description.inputPorts, &description.outputPorts}) {
     for (const CnxUsedPort& port : *ports) {
-      signals += "\tSIGNAL " + port.name +
-                 "_sig : " + vhdlTypeText(port.width1, port.low1, port.width2, port.low2) + ";\n";
+      signals += "\tSIGNAL " + port.name.str() + "_sig : " + vhdlTypeText(port.shape) + ";\n";
     }
   }
   return writer.libraryClausesText() + "\nENTITY bench IS\nEND bench;\n\nARCHITECTURE check OF bench IS\n" +
@@ -117,7 +116,8 @@ TEST_P(VhdlTools, GeneratedFilesAreAcceptedByGhdl) {
   VhdlCase sample(name);
   ASSERT_TRUE(sample.loaded);
   const TempDir& dir = sample.work;
-  VhdlFileWriter writer(sample.ui, dir.path(name), sample.writer->signatureName(), sample.description);
+  const VhdlFileWriter writer(sample.ui, dir.path(name), sample.writer->signatureName(), sample.description,
+                              sample.netlist);
   ASSERT_TRUE(writer.writeDesignFile());
   dir.write("companion.vhd", companionPackage(writer, name));
   dir.write("bench.vhd", templateBench(writer, sample.description));
