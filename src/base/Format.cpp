@@ -31,6 +31,24 @@ std::string formatText(const char* format, ...) {
   return result;
 }
 
+void appendFormatted(std::string& out, const char* format, ...) {
+  va_list args;
+  va_start(args, format);
+  va_list copy;
+  va_copy(copy, args);
+  char small[512];
+  const int needed = std::vsnprintf(small, sizeof small, format, args);
+  va_end(args);
+  if (needed >= 0 && static_cast<size_t>(needed) < sizeof small) {
+    out.append(small, static_cast<size_t>(needed));
+  } else if (needed >= 0) {
+    const size_t start = out.size();
+    out.resize(start + static_cast<size_t>(needed));
+    std::vsnprintf(out.data() + start, static_cast<size_t>(needed) + 1, format, copy);
+  }
+  va_end(copy);
+}
+
 std::string fillTemplate(std::string_view format, std::initializer_list<std::string_view> texts) {
   std::vector<std::string_view> parts(texts);
   size_t size = format.size();

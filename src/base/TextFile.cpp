@@ -40,6 +40,10 @@ bool readFileBytes(const std::string& path, std::string& bytes, int& errorNumber
     errorNumber = errno;
     return false;
   }
+  // Room for the whole file at once, so that a large file is not copied while it grows.
+  struct stat status {};
+  if (fstat(fileno(file), &status) == 0 && status.st_size > 0)
+    bytes.reserve(static_cast<size_t>(status.st_size));
   char buffer[65536];
   size_t n = 0;
   while ((n = std::fread(buffer, 1, sizeof buffer, file)) > 0) bytes.append(buffer, n);
@@ -54,10 +58,14 @@ bool readFileBytes(const std::string& path, std::string& bytes, int& errorNumber
 }
 
 bool readTextFile(const std::string& path, std::string& text, int& errorNumber) {
-  text.clear();
-  std::string bytes;
-  if (!readFileBytes(path, bytes, errorNumber)) return false;
-  text = fromTextMode(bytes);
+  if (!readFileBytes(path, text, errorNumber)) return false;
+  // Each "\r\n" made "\n" in place, without a copy.
+  size_t kept = 0;
+  for (size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
+    text[kept++] = text[i];
+  }
+  text.resize(kept);
   return true;
 }
 

@@ -70,8 +70,8 @@ uint32_t CnxConnectionMap::bucketOf(std::string_view key) {
 }
 
 const CnxConnectionMap::Instance* CnxConnectionMap::findInstance(Name name) const {
-  const auto it = instanceIndex_.find(name);
-  return it == instanceIndex_.end() ? nullptr : &instances_[it->second];
+  const uint32_t* index = instanceIndex_.find(name);
+  return index == nullptr ? nullptr : &instances_[*index];
 }
 
 std::span<const CnxConnectionEnd> CnxConnectionMap::find(std::string_view instance,
@@ -86,20 +86,21 @@ std::span<const CnxConnectionEnd> CnxConnectionMap::find(std::string_view instan
 }
 
 void CnxConnectionMapBuilder::file(Name instance, Name port, const CnxConnectionEnd& end) {
-  const auto [instanceIt, newInstance] =
-      instanceOf_.try_emplace(instance, static_cast<uint32_t>(instanceNames_.size()));
+  const auto [instanceId, newInstance] =
+      instanceOf_.tryEmplace(instance, static_cast<uint32_t>(instanceNames_.size()));
   if (newInstance) instanceNames_.push_back(instance);
-  const auto [portIt, newPort] =
-      portOf_.try_emplace(PortKey{instanceIt->second, port}, static_cast<uint32_t>(ports_.size()));
-  if (newPort) ports_.push_back(FiledPort{instanceIt->second, port});
-  ++ports_[portIt->second].endCount;
+  const auto [portId, newPort] =
+      portOf_.tryEmplace(PortKey{*instanceId, port}, static_cast<uint32_t>(ports_.size()));
+  if (newPort) ports_.push_back(FiledPort{*instanceId, port});
+  ++ports_[*portId].endCount;
   ends_.push_back(end);
-  portOfEnd_.push_back(portIt->second);
+  portOfEnd_.push_back(*portId);
 }
 
 CnxConnectionMap CnxConnectionMapBuilder::finish() {
   CnxConnectionMap map;
   portOf_ = {};
+  map.instanceIndex_.reserve(instanceNames_.size());
 
   // Instances by bucket, the newest first within a bucket.
   std::vector<uint32_t> instanceOrder(instanceNames_.size());
@@ -128,7 +129,7 @@ CnxConnectionMap CnxConnectionMapBuilder::finish() {
   for (uint32_t i : instanceOrder) {
     std::span<uint32_t> ids(portIds.data() + portStart[i], portStart[i + 1] - portStart[i]);
     orderByBucket(ids, [&portBucket](uint32_t p) { return portBucket[p]; });
-    map.instanceIndex_.emplace(instanceNames_[i], static_cast<uint32_t>(map.instances_.size()));
+    map.instanceIndex_.tryEmplace(instanceNames_[i], static_cast<uint32_t>(map.instances_.size()));
     map.instances_.push_back(
         {instanceNames_[i], static_cast<uint32_t>(map.ports_.size()), static_cast<uint32_t>(ids.size())});
     for (uint32_t p : ids) {
@@ -138,9 +139,17 @@ CnxConnectionMap CnxConnectionMapBuilder::finish() {
     }
   }
 
-  // The ends: file order within each port, then bit order.
-  map.ends_.resize(ends_.size());
-  for (size_t e = 0; e < ends_.size(); ++e) map.ends_[endPlace[portOfEnd_[e]]++] = ends_[e];
+  // The ends: file order within each port, then bit order. Each end is moved to its place in the list
+  // itself, following the cycles of the permutation, so that the ends are not copied into a second list.
+  std::vector<uint32_t>& place = portOfEnd_;
+  for (uint32_t& end : place) end = endPlace[end]++;
+  for (size_t e = 0; e < ends_.size(); ++e) {
+    while (place[e] != e) {
+      std::swap(ends_[e], ends_[place[e]]);
+      std::swap(place[e], place[place[e]]);
+    }
+  }
+  map.ends_ = std::move(ends_);
   for (const CnxConnectionMap::Port& port : map.ports_)
     orderByBitPosition(std::span<CnxConnectionEnd>(map.ends_).subspan(port.firstEnd, port.endCount));
 

@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "cnx/Bounds.h"
+#include "cnx/FlatMap.h"
 #include "cnx/TextPool.h"
 
 namespace plovix {
@@ -77,7 +77,7 @@ class CnxConnectionMap {
   std::vector<Instance> instances_;
   std::vector<Port> ports_;
   std::vector<CnxConnectionEnd> ends_;
-  std::unordered_map<Name, uint32_t> instanceIndex_;
+  FlatMap<Name, uint32_t, NameHash> instanceIndex_;
 };
 
 // Files the ends of a whole file as the reader meets them, and puts them in their walking order at the end.
@@ -105,9 +105,9 @@ class CnxConnectionMapBuilder {
   };
 
   std::vector<Name> instanceNames_;  // in the order first filed
-  std::unordered_map<Name, uint32_t> instanceOf_;
+  FlatMap<Name, uint32_t, NameHash> instanceOf_;
   std::vector<FiledPort> ports_;  // in the order first filed
-  std::unordered_map<PortKey, uint32_t, PortKeyHash> portOf_;
+  FlatMap<PortKey, uint32_t, PortKeyHash> portOf_;
   std::vector<CnxConnectionEnd> ends_;  // in file order
   std::vector<uint32_t> portOfEnd_;
 };

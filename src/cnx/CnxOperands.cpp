@@ -1,6 +1,6 @@
 // Implementation of the operand classes of CNX statement lines.
-#include "base/Messages.h"
 #include "cnx/CnxOperands.h"
+#include "base/Messages.h"
 
 #include <limits>
 

@@ -23,6 +23,7 @@ constexpr std::array<std::string_view, 6> kRetrievedStatements = {
 // The trimmed lines of `text` whose first word (up to a blank or tab) is a retrieved statement.
 std::string retrievedStatementsOf(std::string_view text) {
   std::string kept;
+  kept.reserve(text.size());
   TextLineCursor lines(text);
   CnxLine line;
   while (line.readFrom(lines)) {

@@ -78,8 +78,8 @@ bool readUsedPortStatement(CnxOperands& in, CnxBuild& out) {
   const std::string_view tag = in.word();
   if (!in.endOfLine()) return false;
   port.name = out.intern(splitCnxReference(reference).port);
-  port.defaultValue = portDefaultOf(out.intern(defaultValue));
-  port.tag = out.intern(tag);
+  port.defaultValue = portDefaultOf(out.value(defaultValue));
+  port.tag = out.value(tag);
   CnxDescription& d = out.description;
   if (port.shape.isTwoDimensional()) d.uses2D = true;
   if (ofMainModule) {

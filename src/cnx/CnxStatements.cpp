@@ -1,8 +1,7 @@
 // The declaration statements of a CNX body (LIBRARY:, MODULE:, PARAMETER:, CONSTANT:, PRIVATE:) and the
 // dispatch of every statement line.
-#include "base/Messages.h"
 #include "cnx/CnxStatements.h"
-
+#include "base/Messages.h"
 
 namespace plovix {
 
@@ -36,8 +35,8 @@ bool readNamedValue(CnxOperands& in, CnxBuild& out, std::vector<CnxParameter>& l
   std::string_view name, target;
   CnxParameter record;
   if (!in.identifier(name) || !in.type(record.type)) return false;
-  record.name = out.intern(name);
-  record.value = out.intern(in.word());
+  record.name = out.value(name);
+  record.value = out.value(in.word());
   if (!in.optionalIdentifier(target) || !in.endOfLine()) return false;
   record.target = out.intern(target);
   list.push_back(record);
@@ -48,8 +47,8 @@ bool readPrivate(CnxOperands& in, CnxBuild& out) {
   std::string_view name;
   CnxPrivate record;
   if (!in.identifier(name) || !in.type(record.type)) return false;
-  record.name = out.intern(name);
-  record.value = out.intern(in.word());
+  record.name = out.value(name);
+  record.value = out.value(in.word());
   if (!in.endOfLine()) return false;
   out.description.privates.push_back(record);
   return true;

@@ -15,7 +15,12 @@ struct CnxBuild {
   CnxDescription& description;
   CnxConnectionMapBuilder connections;
 
+  // The names that key the connection map and the netlist (modules, instances, ports, targets) are
+  // interned: each distinct name is stored once, and equal names are one pointer.
   Name intern(std::string_view text) { return description.names->intern(text); }
+  // Everything else (the names and values of parameters, constants and privates, defaults, tags) is
+  // stored as it comes, without the lookup.
+  Name value(std::string_view text) { return description.names->add(text); }
 };
 
 // Reads the statement whose first token has just been taken (it is the operands' current token) and stores

@@ -52,7 +52,7 @@ const detail::PooledText* TextPool::store(std::string_view text, size_t hash) {
 }
 
 void TextPool::grow() {
-  std::vector<Slot> old = std::move(slots_);
+  std::vector<Slot, LargeTableAllocator<Slot>> old = std::move(slots_);
   slots_.assign(old.empty() ? 64 : old.size() * 2, Slot{});
   const size_t mask = slots_.size() - 1;
   for (const Slot& slot : old) {
@@ -79,7 +79,7 @@ Name TextPool::intern(std::string_view text) {
   if (text.empty()) return Name();
   // Texts beyond 4 GiB cannot be stored; no description comes near (the reader holds whole files in memory).
   if (text.size() > UINT32_MAX) text = text.substr(0, UINT32_MAX);
-  if ((count_ + 1) * 2 > slots_.size()) grow();
+  if ((count_ + 1) * 4 > slots_.size() * 3) grow();
   const size_t hash = hashText(text);
   const size_t mask = slots_.size() - 1;
   size_t i = hash & mask;

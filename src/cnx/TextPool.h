@@ -11,6 +11,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/LargeTable.h"
+
 namespace plovix {
 
 namespace detail {
@@ -79,7 +81,12 @@ class TextPool {
   uint32_t tag(Name name) const { return name.entry_->tag; }
   void setTag(Name name, uint32_t tag);
 
-  // The number of distinct texts stored.
+  // Makes room for about `count` interned texts, so that the table is not rebuilt while they come.
+  void reserve(size_t count) {
+    while (count * 4 > slots_.size() * 3) grow();
+  }
+
+  // The number of texts interned.
   size_t size() const { return count_; }
 
  private:
@@ -94,7 +101,7 @@ class TextPool {
   std::vector<std::unique_ptr<std::byte[]>> blocks_;
   std::byte* free_ = nullptr;
   size_t left_ = 0;
-  std::vector<Slot> slots_;  // a power of two long, at most half full
+  std::vector<Slot, LargeTableAllocator<Slot>> slots_;  // a power of two long, at most three quarters full
   size_t count_ = 0;
 };
 

@@ -12,8 +12,8 @@ namespace {
 std::string moduleLines(const std::string& leader, const CnxDescription& description) {
   std::string lines;
   for (const CnxModule& module : description.modules) {
-    lines += formatText("%s %s %s %s\n", leader.c_str(), "MODULE:", module.moduleName.c_str(),
-                        module.givenInstanceName.c_str());
+    appendFormatted(lines, "%s %s %s %s\n", leader.c_str(), "MODULE:", module.moduleName.c_str(),
+                    module.givenInstanceName.c_str());
   }
   return lines;
 }
@@ -22,7 +22,7 @@ std::string moduleLines(const std::string& leader, const CnxDescription& descrip
 std::string nameLines(const std::string& leader, const CnxDescription& description) {
   std::string lines;
   for (const Name& name : description.moduleNames) {
-    lines += formatText("%s %s%s\n", leader.c_str(), "\t\t\t", name.c_str());
+    appendFormatted(lines, "%s %s%s\n", leader.c_str(), "\t\t\t", name.c_str());
   }
   return lines;
 }

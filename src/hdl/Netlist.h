@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -29,28 +30,45 @@ class Netlist {
   Netlist() = default;
   // A netlist of `parts`, owning `texts`, the pool of the texts it made.
   explicit Netlist(Parts parts, std::unique_ptr<TextPool> texts = nullptr)
-      : parts_(std::move(parts)), texts_(std::move(texts)) {}
+      : owned_(std::move(parts)), texts_(std::move(texts)) {}
+  // A netlist adjusted from `base`: the lists given replace base's, the others are base's own lists,
+  // borrowed like base's names (so `base` must outlive it and stay where it is). An adjusting step that
+  // changes nothing copies nothing.
+  Netlist(const Netlist& base, std::optional<std::vector<NetlistWire>> wires,
+          std::optional<std::vector<NetlistConnection>> connections, std::unique_ptr<TextPool> texts);
+  Netlist(Netlist&& other) noexcept { *this = std::move(other); }
+  Netlist& operator=(Netlist&& other) noexcept;
 
   // The wires in the order they were made (their numbers ascending).
-  const std::vector<NetlistWire>& wires() const { return parts_.wires; }
+  const std::vector<NetlistWire>& wires() const { return wires_ ? *wires_ : owned_.wires; }
   // The connections in the order of the description's connection map.
-  const std::vector<NetlistConnection>& connections() const { return parts_.connections; }
+  const std::vector<NetlistConnection>& connections() const {
+    return connections_ ? *connections_ : owned_.connections;
+  }
   // The ports of every instantiated module, in the order first used.
-  const std::vector<SubModulePort>& subModulePorts() const { return parts_.subModulePorts; }
+  const std::vector<SubModulePort>& subModulePorts() const {
+    return subModulePorts_ ? *subModulePorts_ : owned_.subModulePorts;
+  }
   // Some driven port is one row of a two-dimensional group: the rows travel packed on one wire.
-  bool packsRows() const { return parts_.packsRows; }
+  bool packsRows() const { return owned_.packsRows; }
   // The number the next "sub_wire" name takes (the VHDL conversion signals continue from it).
-  int32_t nextWireNumber() const { return parts_.nextWireNumber; }
+  int32_t nextWireNumber() const { return owned_.nextWireNumber; }
 
   // The first wire whose sourceKey is `key`, or null. It scans the wires: for checks and tests (the builder
   // finds wires through its own index of keys).
   const NetlistWire* findWire(std::string_view key) const;
 
-  // A copy of the parts, to make an adjusted netlist from.
-  Parts parts() const { return parts_; }
+  // A copy of the parts.
+  Parts parts() const {
+    return Parts{wires(), connections(), subModulePorts(), packsRows(), nextWireNumber()};
+  }
 
  private:
-  Parts parts_;
+  Parts owned_;
+  // The lists borrowed from the netlist this one was adjusted from; null where the list is owned.
+  const std::vector<NetlistWire>* wires_ = nullptr;
+  const std::vector<NetlistConnection>* connections_ = nullptr;
+  const std::vector<SubModulePort>* subModulePorts_ = nullptr;
   std::unique_ptr<TextPool> texts_;
 };
 

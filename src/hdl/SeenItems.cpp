@@ -18,7 +18,7 @@ std::string SeenItems::wrapped(std::string_view item) const {
 bool SeenItems::contains(std::string_view item) const {
   if (textOnly_ || item.empty() || item.find(separator_) != std::string_view::npos)
     return text_.find(wrapped(item)) != std::string::npos;
-  return items_.find(item) != items_.end();
+  return items_.contains(item);
 }
 
 void SeenItems::add(Name item) {

@@ -4,9 +4,8 @@
 
 #include <string>
 #include <string_view>
-#include <unordered_set>
 
-#include "cnx/TextPool.h"
+#include "cnx/NameSet.h"
 
 namespace plovix {
 
@@ -28,7 +27,7 @@ class SeenItems {
   char separator_;
   Layout layout_;
   std::string text_;
-  std::unordered_set<Name, NameHash, NameEqual> items_;
+  NameSet items_;
   // Some item holds the separator, so a search may match across items: only the text can answer.
   bool textOnly_ = false;
 };

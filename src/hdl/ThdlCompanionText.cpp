@@ -15,8 +15,8 @@ std::string prototypePortList(const std::vector<CnxUsedPort>& ports) {
   std::string list;
   std::string separator;
   for (const CnxUsedPort& port : ports) {
-    list += formatText("%s\t%s%s%s", separator.c_str(), port.name.c_str(),
-                       thdlGroupRange(port.shape.rows).c_str(), thdlGroupRange(port.shape.bits).c_str());
+    appendFormatted(list, "%s\t%s%s%s", separator.c_str(), port.name.c_str(),
+                    thdlGroupRange(port.shape.rows).c_str(), thdlGroupRange(port.shape.bits).c_str());
     separator = ",\n";
   }
   return list;
@@ -39,7 +39,7 @@ std::string ThdlFileWriter::buildCompanionText() const {
     std::string separator;
     parameterClause = "WITH (\n";
     for (const CnxParameter& parameter : description_.parameters) {
-      parameterClause += formatText("%s\t%s", separator.c_str(), parameter.name.c_str());
+      appendFormatted(parameterClause, "%s\t%s", separator.c_str(), parameter.name.c_str());
       separator = ",\n";
     }
     parameterClause += "\n)\n\n";
@@ -55,16 +55,16 @@ std::string ThdlFileWriter::buildInstanceText() const {
   std::string separator;
   for (const CnxUsedPort& port : description_.outputPorts) {
     const std::string suffix = bracketSuffix(port);
-    results += formatText("%s\t%s_sig%s", separator.c_str(), port.name.c_str(), suffix.c_str());
-    returns += formatText("%s\t.%s%s", separator.c_str(), port.name.c_str(), suffix.c_str());
+    appendFormatted(results, "%s\t%s_sig%s", separator.c_str(), port.name.c_str(), suffix.c_str());
+    appendFormatted(returns, "%s\t.%s%s", separator.c_str(), port.name.c_str(), suffix.c_str());
     separator = ",\n";
   }
   std::string assignments;
   separator.clear();
   for (const CnxUsedPort& port : description_.inputPorts) {
     const std::string suffix = bracketSuffix(port);
-    assignments += formatText("%s\t.%s%s = %s_sig%s", separator.c_str(), port.name.c_str(), suffix.c_str(),
-                              port.name.c_str(), suffix.c_str());
+    appendFormatted(assignments, "%s\t.%s%s = %s_sig%s", separator.c_str(), port.name.c_str(), suffix.c_str(),
+                    port.name.c_str(), suffix.c_str());
     separator = ",\n";
   }
   assignments += "\n)\n";

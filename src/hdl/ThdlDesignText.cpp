@@ -3,6 +3,7 @@
 
 #include "base/Format.h"
 #include "base/TextHelpers.h"
+#include "hdl/ShapeTexts.h"
 #include "hdl/ThdlFileWriter.h"
 
 namespace plovix {
@@ -29,24 +30,31 @@ std::string instanceParameterLines(const CnxDescription& description, Name insta
   std::string separator;
   for (const CnxParameter& parameter : description.parameters) {
     if (parameter.target != instanceName && !parameter.target.empty()) continue;
-    lines += formatText("%s\t\t\t%s = %s", separator.c_str(), parameter.name.c_str(), parameter.name.c_str());
+    appendFormatted(lines, "%s\t\t\t%s = %s", separator.c_str(), parameter.name.c_str(),
+                    parameter.name.c_str());
     separator = ",\n";
   }
   for (const CnxConstant& constant : description.constants) {
     if (constant.target != instanceName && !constant.target.empty()) continue;
-    lines += formatText("%s\t\t\t%s = %s", separator.c_str(), constant.name.c_str(),
-                        thdlParameterValue(constant.type, constant.value).c_str());
+    appendFormatted(lines, "%s\t\t\t%s = %s", separator.c_str(), constant.name.c_str(),
+                    thdlParameterValue(constant.type, constant.value).c_str());
     separator = ",\n";
   }
   return lines;
 }
 
-std::string equation(Name instance, Name port, const CnxConnectionEnd& end) {
+// The text of a range, remembered for the ranges that recur.
+const std::string& groupRange(RangeTexts& ranges, const Range& range) {
+  return ranges.get(keyOf(range), [&range] { return thdlGroupRange(range); });
+}
+
+void appendEquation(std::string& out, RangeTexts& ranges, Name instance, Name port,
+                    const CnxConnectionEnd& end) {
   const std::string driven =
-      thdlReference(instance, port) + thdlGroupRange(end.own.rows) + thdlGroupRange(end.own.bits);
-  const std::string driver = thdlReference(end.peerInstance, end.peerPort) + thdlGroupRange(end.peer.rows) +
-                             thdlGroupRange(end.peer.bits);
-  return formatText("\t%s = %s%s;\n", driven.c_str(), end.peerInverted ? "!" : "", driver.c_str());
+      thdlReference(instance, port) + groupRange(ranges, end.own.rows) + groupRange(ranges, end.own.bits);
+  const std::string driver = thdlReference(end.peerInstance, end.peerPort) +
+                             groupRange(ranges, end.peer.rows) + groupRange(ranges, end.peer.bits);
+  appendFormatted(out, "\t%s = %s%s;\n", driven.c_str(), end.peerInverted ? "!" : "", driver.c_str());
 }
 
 }  // namespace
@@ -60,7 +68,7 @@ std::string ThdlFileWriter::buildDesignText() const {
 std::string ThdlFileWriter::includeStatements() const {
   std::string text;
   for (const Name& name : description_.moduleNames) {
-    text += formatText("INCLUDE \"%s.inc\";\n", toLowerText(name.view()).c_str());
+    appendFormatted(text, "INCLUDE \"%s.inc\";\n", toLowerText(name.view()).c_str());
   }
   return text + "\n";
 }
@@ -70,8 +78,8 @@ std::string ThdlFileWriter::parameterSection() const {
   std::string lines;
   std::string separator;
   for (const CnxParameter& parameter : description_.parameters) {
-    lines += formatText("%s\t%s\t= %s", separator.c_str(), parameter.name.c_str(),
-                        thdlParameterValue(parameter.type, parameter.value).c_str());
+    appendFormatted(lines, "%s\t%s\t= %s", separator.c_str(), parameter.name.c_str(),
+                    thdlParameterValue(parameter.type, parameter.value).c_str());
     separator = ",\n";
   }
   return fillTemplate("\n\nPARAMETERS (\n%s\n);\n\n", {lines});
@@ -87,9 +95,9 @@ std::string ThdlFileWriter::subdesignSection() const {
 std::string ThdlFileWriter::variableSection() const {
   std::string text = "VARIABLE\n\n";
   for (const CnxModule& module : description_.modules) {
-    text += formatText("\t%s%s : %s WITH (\n%s\n\t\t\t);\n\n", module.instanceName.c_str(), "_component",
-                       toLowerText(module.moduleName.view()).c_str(),
-                       instanceParameterLines(description_, module.instanceName).c_str());
+    appendFormatted(text, "\t%s%s : %s WITH (\n%s\n\t\t\t);\n\n", module.instanceName.c_str(), "_component",
+                    toLowerText(module.moduleName.view()).c_str(),
+                    instanceParameterLines(description_, module.instanceName).c_str());
   }
   return text;
 }
@@ -97,8 +105,9 @@ std::string ThdlFileWriter::variableSection() const {
 // One equation per connection, written from its driven end, in the connection map's order.
 std::string ThdlFileWriter::logicSection() const {
   std::string equations;
-  description_.connectionMap.forEachEnd([&equations](Name instance, Name port, const CnxConnectionEnd& end) {
-    if (end.peerIsSource) equations += equation(instance, port, end);
+  RangeTexts ranges;
+  description_.connectionMap.forEachEnd([&](Name instance, Name port, const CnxConnectionEnd& end) {
+    if (end.peerIsSource) appendEquation(equations, ranges, instance, port, end);
   });
   return fillTemplate("BEGIN\n\n%sEND;\n\n\n", {equations});
 }

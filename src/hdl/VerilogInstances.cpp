@@ -38,7 +38,7 @@ std::string connectionItems(const std::vector<const NetlistConnection*>* list) {
   auto close = [&] {
     if (members == 0) return;
     if (members > 1) rightHand = "{" + rightHand + "}";
-    items += formatText("%s\t\t\t\t.%s (%s)", separator, port.c_str(), toLowerText(rightHand).c_str());
+    appendFormatted(items, "%s\t\t\t\t.%s (%s)", separator, port.c_str(), toLowerText(rightHand).c_str());
     separator = ",\n";
   };
   for (const NetlistConnection* c : *list) {
@@ -71,7 +71,7 @@ std::string wireItems(const std::vector<const NetlistWire*>* list) {
     const bool mayOverlap = port.find_first_of(". ()") != std::string::npos;
     if (written.count(item) != 0 || (mayOverlap && items.find(item) != std::string::npos)) continue;
     written.insert(item);
-    items += formatText("%s\t\t\t\t.%s (%s)", separator, port.c_str(), name.c_str());
+    appendFormatted(items, "%s\t\t\t\t.%s (%s)", separator, port.c_str(), name.c_str());
     separator = ",\n";
   }
   return items;
@@ -81,8 +81,8 @@ std::string defparamLines(const CnxDescription& description, Name instance) {
   std::string lines;
   const char* separator = "";
   auto add = [&](Name name, const std::string& value) {
-    lines += formatText("%s\t\t%s_component.%s = %s", separator, instance.c_str(),
-                        toLowerText(name.view()).c_str(), value.c_str());
+    appendFormatted(lines, "%s\t\t%s_component.%s = %s", separator, instance.c_str(),
+                    toLowerText(name.view()).c_str(), value.c_str());
     separator = ",\n";
   };
   for (const CnxParameter& p : description.parameters) {

@@ -2,6 +2,7 @@
 #include "hdl/VerilogNetlist.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -13,24 +14,30 @@ namespace plovix {
 
 VerilogNetlist declareVerilogWires(const Netlist& netlist, const CnxDescription& description,
                                    std::string_view signatureName) {
-  Netlist::Parts parts = netlist.parts();
   auto texts = std::make_unique<TextPool>();
   const MainModuleWidening widening(description, signatureName);
+  const std::vector<NetlistWire>& wires = netlist.wires();
   VerilogNetlist result;
-  result.declared.assign(parts.wires.size(), true);
+  result.declared.assign(wires.size(), true);
+  // Only wires of main-module ports change, and the connections they feed; lists are copied when they do.
+  std::optional<std::vector<NetlistWire>> newWires;
+  std::optional<std::vector<NetlistConnection>> newConnections;
 
-  std::unordered_map<Name, size_t> firstUser;  // peer name -> first connection, made when first needed
+  std::unordered_map<Name, size_t> firstUser;  // peer name -> first connection
   SeenItems seenPorts(' ', SeenItems::Layout::kWrappedItems);
   Name lastDeclared;
-  for (size_t w = 0; w < parts.wires.size(); ++w) {
-    NetlistWire& wire = parts.wires[w];
-    if (wire.isConstant || !widening.widen(wire, *texts)) continue;
-    if (firstUser.empty()) {
-      for (size_t i = 0; i < parts.connections.size(); ++i)
-        firstUser.try_emplace(parts.connections[i].peerName, i);
+  for (size_t w = 0; w < wires.size(); ++w) {
+    if (wires[w].isConstant) continue;
+    NetlistWire wire = wires[w];
+    if (!widening.widen(wire, *texts)) continue;
+    if (!newWires) {
+      newWires = wires;
+      newConnections = netlist.connections();
+      for (size_t i = 0; i < newConnections->size(); ++i)
+        firstUser.try_emplace((*newConnections)[i].peerName, i);
     }
     const auto found = firstUser.find(wire.name);
-    NetlistConnection* user = found == firstUser.end() ? nullptr : &parts.connections[found->second];
+    NetlistConnection* user = found == firstUser.end() ? nullptr : &(*newConnections)[found->second];
     if (!seenPorts.contains(wire.drivingPort.view())) {
       lastDeclared = wire.name;
       seenPorts.add(wire.drivingPort);
@@ -43,8 +50,9 @@ VerilogNetlist declareVerilogWires(const Netlist& netlist, const CnxDescription&
       const std::string low = user->peer.bits.low.text();
       user->peerBitsRange = texts->intern("[" + low + ":" + low + "]");
     }
+    (*newWires)[w] = wire;
   }
-  result.netlist = Netlist(std::move(parts), std::move(texts));
+  result.netlist = Netlist(netlist, std::move(newWires), std::move(newConnections), std::move(texts));
   return result;
 }
 

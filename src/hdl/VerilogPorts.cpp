@@ -21,7 +21,7 @@ std::string VerilogFileWriter::portListText() const {
   std::string text;
   const char* separator = "";
   forEachPort(description_, [&](const CnxUsedPort& port) {
-    text += formatText("%s\t%s", separator, toLowerText(port.name.view()).c_str());
+    appendFormatted(text, "%s\t%s", separator, toLowerText(port.name.view()).c_str());
     separator = ",\n";
   });
   return text + ");\n\n";
@@ -30,9 +30,9 @@ std::string VerilogFileWriter::portListText() const {
 std::string VerilogFileWriter::portDeclarationText() const {
   std::string text;
   forEachPort(description_, [&](const CnxUsedPort& port) {
-    text += formatText("\t%s\t%s%s  %s%s;\n", verilogDirectionWord(port.direction),
-                       rangeText(port.shape.rows).c_str(), rangeText(port.shape.bits).c_str(),
-                       toLowerText(port.name.view()).c_str(), "");
+    appendFormatted(text, "\t%s\t%s%s  %s%s;\n", verilogDirectionWord(port.direction),
+                    rangeText(port.shape.rows).c_str(), rangeText(port.shape.bits).c_str(),
+                    toLowerText(port.name.view()).c_str(), "");
   });
   return text;
 }
@@ -42,8 +42,8 @@ std::string VerilogFileWriter::parameterBlockText() const {
   std::string text = "\n\tparameter\n";
   const char* separator = "";
   for (const CnxParameter& parameter : description_.parameters) {
-    text += formatText("%s\t\t%s = %s", separator, parameter.name.c_str(),
-                       verilogParameterValue(parameter.type, parameter.value).c_str());
+    appendFormatted(text, "%s\t\t%s = %s", separator, parameter.name.c_str(),
+                    verilogParameterValue(parameter.type, parameter.value).c_str());
     separator = ",\n";
   }
   return text + ";\n\n";
@@ -54,7 +54,7 @@ std::string VerilogFileWriter::buildInstanceText() const {
   const char* separator = "";
   forEachPort(description_, [&](const CnxUsedPort& port) {
     const std::string name = toLowerText(port.name.view());
-    items += formatText("%s\t.%s ( %s_sig )", separator, name.c_str(), name.c_str());
+    appendFormatted(items, "%s\t.%s ( %s_sig )", separator, name.c_str(), name.c_str());
     separator = ",\n";
   });
   return formatText("%s\t%s_inst (\n%s\n\t);\n", fileName_.c_str(), fileName_.c_str(), items.c_str());

@@ -5,15 +5,19 @@
 #include "base/Format.h"
 #include "base/TextHelpers.h"
 #include "hdl/NetlistKeys.h"
+#include "hdl/ShapeTexts.h"
 #include "hdl/VerilogFileWriter.h"
 
 namespace plovix {
 
 namespace {
 
-std::string wireLine(const NetlistWire& wire, const std::string& value) {
-  return formatText("\twire %s%s %s%s;\n", rangeText(wire.rowsWidth, Bound()).c_str(),
-                    rangeText(wire.bitsWidth, Bound()).c_str(), wire.name.c_str(), value.c_str());
+std::string wireLine(RangeTexts& ranges, const NetlistWire& wire, const std::string& value) {
+  const Range rows{wire.rowsWidth, Bound()};
+  const Range bits{wire.bitsWidth, Bound()};
+  return formatText(
+      "\twire %s%s %s%s;\n", ranges.get(keyOf(rows), [&rows] { return rangeText(rows); }).c_str(),
+      ranges.get(keyOf(bits), [&bits] { return rangeText(bits); }).c_str(), wire.name.c_str(), value.c_str());
 }
 
 // The value a plain wire is declared with: the inverted port, the port itself, or none.
@@ -56,12 +60,14 @@ struct OutputGroup {
 std::string VerilogFileWriter::wireText(const VerilogNetlist& declaration) const {
   const Netlist& netlist = declaration.netlist;
   std::string text;
+  RangeTexts ranges;
   for (size_t w = 0; w < netlist.wires().size(); ++w) {
     const NetlistWire& wire = netlist.wires()[w];
     if (wire.isConstant) {
-      text += toLowerText(wireLine(wire, " = " + verilogConstantValue(wire.drivingPort, wire.bitsWidth)));
+      text +=
+          toLowerText(wireLine(ranges, wire, " = " + verilogConstantValue(wire.drivingPort, wire.bitsWidth)));
     } else if (declaration.declared[w]) {
-      text += toLowerText(wireLine(wire, plainWireValue(wire)));
+      text += toLowerText(wireLine(ranges, wire, plainWireValue(wire)));
     }
   }
 

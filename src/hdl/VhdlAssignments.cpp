@@ -1,11 +1,15 @@
 // The VHDL concurrent assignments: constant and inverting wires, grouped connections, conversion signals and
 // the call of the two-dimensional unpacking procedure.
 #include <algorithm>
+#include <cstdint>
 #include <string>
-#include <unordered_set>
+#include <vector>
 
 #include "base/Format.h"
+#include "base/LargeTable.h"
 #include "base/TextHelpers.h"
+#include "cnx/NameSet.h"
+#include "hdl/ShapeTexts.h"
 #include "hdl/VhdlFileWriter.h"
 #include "hdl/VhdlTextRules.h"
 
@@ -13,30 +17,70 @@ namespace plovix {
 
 namespace {
 
-// The assignment text built so far, with its lines kept in a set so that a repeated line is found without
+// The assignment text built so far, with its lines indexed so that a repeated line is found without
 // searching the text. As long as every line has its one tab at the start and its one line feed at the end,
-// the text contains a line exactly when the set holds it; otherwise the text is searched.
+// the text contains a line exactly when the index holds it; otherwise the text is searched. The index keeps
+// each line's place in the text, in an open-addressing table.
 class AssignmentText {
  public:
   void append(const std::string& line) {
-    text_ += line;
-    lines_.insert(line);
     if (!isPlainLine(line)) plain_ = false;
+    if (plain_) index(line);
+    text_ += line;
   }
   bool contains(const std::string& line) const {
-    if (plain_ && isPlainLine(line)) return lines_.count(line) != 0;
-    return text_.find(line) != std::string::npos;
+    if (!plain_ || !isPlainLine(line)) return text_.find(line) != std::string::npos;
+    if (slots_.empty()) return false;
+    const size_t hash = std::hash<std::string_view>{}(line);
+    for (size_t i = hash & (slots_.size() - 1);; i = (i + 1) & (slots_.size() - 1)) {
+      const Slot& slot = slots_[i];
+      if (slot.length == 0) return false;
+      if (slot.hash == hash && lineAt(slot) == line) return true;
+    }
   }
   const std::string& text() const { return text_; }
 
  private:
+  struct Slot {
+    size_t hash = 0;
+    uint32_t length = 0;  // 0: empty (a plain line is at least two characters)
+    size_t offset = 0;
+  };
+
   static bool isPlainLine(const std::string& line) {
     return line.size() >= 2 && line.front() == '\t' && line.back() == '\n' &&
            line.find_first_of("\t\n", 1) == line.size() - 1;
   }
+  std::string_view lineAt(const Slot& slot) const {
+    return std::string_view(text_).substr(slot.offset, slot.length);
+  }
+
+  // Adds the line that is about to be appended at the end of the text.
+  void index(const std::string& line) {
+    if (line.size() > UINT32_MAX) {
+      plain_ = false;
+      return;
+    }
+    if ((count_ + 1) * 2 > slots_.size()) grow();
+    place(Slot{std::hash<std::string_view>{}(line), static_cast<uint32_t>(line.size()), text_.size()});
+    ++count_;
+  }
+  void place(const Slot& slot) {
+    size_t i = slot.hash & (slots_.size() - 1);
+    while (slots_[i].length != 0) i = (i + 1) & (slots_.size() - 1);
+    slots_[i] = slot;
+  }
+  void grow() {
+    std::vector<Slot, LargeTableAllocator<Slot>> old = std::move(slots_);
+    slots_.assign(old.empty() ? 64 : old.size() * 2, Slot{});
+    for (const Slot& slot : old) {
+      if (slot.length != 0) place(slot);
+    }
+  }
 
   std::string text_;
-  std::unordered_set<std::string> lines_;
+  std::vector<Slot, LargeTableAllocator<Slot>> slots_;  // a power of two long, at most half full
+  size_t count_ = 0;
   bool plain_ = true;
 };
 
@@ -108,14 +152,14 @@ class GroupedAssignments {
       if (c.peer.bits.present() && !c.own.bits.present()) {
         appendLow(right_, c.peer.bits.low);
       } else {
-        right_ += vhdlRangeText(c.peer);
+        right_ += rangeOf(c.peer);
       }
     } else if (variationPort && c.role == ConversionRole::kFlatSide) {
       open(c.peerName.view());
       right_ += separator_;
       right_ += c.ownPort.view();
     } else if (!variationPort) {
-      const bool constantPeer = constantWires_.count(c.peerName) != 0;
+      const bool constantPeer = constantWires_.contains(c.peerName.view());
       const bool oneSideFlat = c.own.bits.present() != c.peer.bits.present();
       if (oneSideFlat && !constantPeer) {
         if (c.role != ConversionRole::kNone) return;
@@ -123,7 +167,7 @@ class GroupedAssignments {
       } else {
         if (c.own.rows.present() || !c.peer.rows.present() || c.role != ConversionRole::kNone) return;
         open(c.peerName.view());
-        target_ += vhdlRangeText(wireRanges(c.own));
+        target_ += rangeOf(wireRanges(c.own));
         right_ += separator_;
         right_ += c.ownPort.view();
       }
@@ -144,6 +188,10 @@ class GroupedAssignments {
     text += ')';
   }
 
+  const std::string& rangeOf(const Shape& shape) {
+    return ranges_.get(keyOf(shape), [&shape] { return vhdlRangeText(shape); });
+  }
+
   // The widths of a shape with both low indices 0.
   static Shape wireRanges(const Shape& shape) {
     return Shape{{shape.rows.width, Bound()}, {shape.bits.width, Bound()}};
@@ -158,7 +206,7 @@ class GroupedAssignments {
         appendLow(target_, c.own.rows.low);
       }
     } else {
-      target_ += vhdlRangeText(wireRanges(c.own));
+      target_ += rangeOf(wireRanges(c.own));
     }
     right_ += separator_;
     right_ += c.ownPort.view();
@@ -182,7 +230,8 @@ class GroupedAssignments {
   }
 
   AssignmentText& out_;
-  std::unordered_set<Name> constantWires_;
+  NameSet constantWires_;
+  ShapeTexts ranges_;
   std::string target_, previous_, right_, separator_;
 };
 
@@ -205,8 +254,8 @@ std::string VhdlFileWriter::concurrentAssignmentsText(const VhdlNetlist& signals
       if (connection.role == ConversionRole::kRowSide) rowSide = connection.peerName;
       if (connection.role == ConversionRole::kFlatSide) flatSide = connection.peerName;
     }
-    text += formatText("\n\tconv_2_2d(signal_out => %s, signal_in => %s);\n\n", rowSide.c_str(),
-                       flatSide.c_str());
+    appendFormatted(text, "\n\tconv_2_2d(signal_out => %s, signal_in => %s);\n\n", rowSide.c_str(),
+                    flatSide.c_str());
   }
   return text;
 }

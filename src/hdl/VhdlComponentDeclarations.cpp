@@ -20,13 +20,13 @@ std::string componentGenericText(const CnxDescription& description, Name instanc
   const char* prefix = "\tGENERIC (\n";
   for (const CnxConstant& constant : description.constants) {
     if (constant.target != instance && !constant.target.empty()) continue;
-    text += formatText("%s\t\t%s\t\t: %s", prefix, toLowerText(constant.name.view()).c_str(),
-                       vhdlGenericType(constant));
+    appendFormatted(text, "%s\t\t%s\t\t: %s", prefix, toLowerText(constant.name.view()).c_str(),
+                    vhdlGenericType(constant));
     prefix = ";\n";
   }
   for (const CnxParameter& parameter : description.parameters) {
     if (parameter.target != instance && !parameter.target.empty()) continue;
-    text += formatText("%s\t\t%s\t\t: %s", prefix, parameter.name.c_str(), parameter.name.c_str());
+    appendFormatted(text, "%s\t\t%s\t\t: %s", prefix, parameter.name.c_str(), parameter.name.c_str());
     prefix = ";\n";
   }
   if (!text.empty()) text += "\n\t);\n";
@@ -51,14 +51,14 @@ std::string VhdlFileWriter::componentDeclarationsText() const {
       const char* separator = "";
       for (size_t i : ports->second) {
         const SubModulePort& port = subModulePorts[i];
-        portLines += formatText("%s\t\t\t%s\t: %s %s", separator, port.portName.c_str(),
-                                subModuleDirectionWord(port.direction), vhdlTypeText(port.shape).c_str());
+        appendFormatted(portLines, "%s\t\t\t%s\t: %s %s", separator, port.portName.c_str(),
+                        subModuleDirectionWord(port.direction), vhdlTypeText(port.shape).c_str());
         separator = ";\n";
       }
     }
-    text += formatText("\n\n\tCOMPONENT %s\n%s\tPORT (\n%s\n\t);\n\tEND COMPONENT;\n\n",
-                       module.moduleName.c_str(),
-                       componentGenericText(description_, module.instanceName).c_str(), portLines.c_str());
+    appendFormatted(text, "\n\n\tCOMPONENT %s\n%s\tPORT (\n%s\n\t);\n\tEND COMPONENT;\n\n",
+                    module.moduleName.c_str(),
+                    componentGenericText(description_, module.instanceName).c_str(), portLines.c_str());
   }
   return text;
 }

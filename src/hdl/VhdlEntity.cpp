@@ -2,18 +2,21 @@
 #include "hdl/VhdlFileWriter.h"
 
 #include "base/Format.h"
+#include "hdl/ShapeTexts.h"
 #include "hdl/VhdlTextRules.h"
 
 namespace plovix {
 
 std::string VhdlFileWriter::portListText() const {
   std::string text;
+  ShapeTexts types;
   const char* separator = "";
   for (const auto* ports : {&description_.inputPorts, &description_.outputPorts}) {
     for (const CnxUsedPort& port : *ports) {
       text +=
           formatText("%s\t\t%s\t\t: %s %s%s", separator, port.name.c_str(), vhdlDirectionWord(port.direction),
-                     vhdlTypeText(port.shape).c_str(), vhdlDefaultText(port).c_str());
+                     types.get(keyOf(port.shape), [&port] { return vhdlTypeText(port.shape); }).c_str(),
+                     vhdlDefaultText(port).c_str());
       separator = ";\n";
     }
   }

@@ -31,7 +31,7 @@ std::string VhdlFileWriter::buildInstanceText() const {
   const char* prefix = "";
   for (const auto* ports : {&description_.inputPorts, &description_.outputPorts}) {
     for (const CnxUsedPort& port : *ports) {
-      lines += formatText("%s\t\t%s\t => %s_sig", prefix, port.name.c_str(), port.name.c_str());
+      appendFormatted(lines, "%s\t\t%s\t => %s_sig", prefix, port.name.c_str(), port.name.c_str());
       prefix = ",\n";
     }
   }

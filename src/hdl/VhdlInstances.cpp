@@ -19,7 +19,8 @@ std::string genericMapText(const CnxDescription& description, Name instance) {
   const char* prefix = "";
   for (const CnxConstant& constant : description.constants) {
     if (constant.target != instance && !constant.target.empty()) continue;
-    lines += formatText("%s\t\t%s => %s", prefix, constant.name.c_str(), vhdlGenericValue(constant).c_str());
+    appendFormatted(lines, "%s\t\t%s => %s", prefix, constant.name.c_str(),
+                    vhdlGenericValue(constant).c_str());
     prefix = ",\n";
   }
   return formatText("\tGENERIC MAP (\n%s\n\t)", lines.c_str());
@@ -62,7 +63,8 @@ std::string VhdlFileWriter::instancesText(const VhdlNetlist& signals) const {
     std::string entries;
     const char* prefix = "";
     auto addEntry = [&](std::string_view port, std::string_view signal) {
-      entries += formatText("%s\t\t%s => %s", prefix, std::string(port).c_str(), std::string(signal).c_str());
+      appendFormatted(entries, "%s\t\t%s => %s", prefix, std::string(port).c_str(),
+                      std::string(signal).c_str());
       prefix = ",\n";
     };
 

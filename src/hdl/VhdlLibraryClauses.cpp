@@ -18,9 +18,9 @@ std::string VhdlFileWriter::libraryClausesText() const {
     std::string useLines;
     while (!rest.empty()) {
       const std::string piece = splitFirstToken(rest, ";");
-      if (!piece.empty()) useLines += formatText("USE %s;\n", trimText(piece).c_str());
+      if (!piece.empty()) appendFormatted(useLines, "USE %s;\n", trimText(piece).c_str());
     }
-    text += formatText("\nLIBRARY %s;\n%s", library.name.c_str(), useLines.c_str());
+    appendFormatted(text, "\nLIBRARY %s;\n%s", library.name.c_str(), useLines.c_str());
   }
   if (defaultLibraries) text = "LIBRARY ieee;\nUSE ieee.std_logic_1164.all;\n" + text;
   return text;

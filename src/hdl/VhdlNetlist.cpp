@@ -3,6 +3,7 @@
 #include "hdl/VhdlNetlist.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -10,54 +11,69 @@
 #include "base/Format.h"
 #include "hdl/MainModuleWires.h"
 #include "hdl/SeenItems.h"
+#include "hdl/ShapeTexts.h"
 #include "hdl/VhdlTextRules.h"
 
 namespace plovix {
 
 namespace {
 
-// Decides which wires are declared and renames the connections of the others: a connection fed by a wire
-// whose key was declared already takes the name of the wire declared last before it.
-std::vector<bool> declareWires(Netlist::Parts& parts, const MainModuleWidening& widening, TextPool& texts) {
-  std::vector<bool> declared(parts.wires.size(), true);
+// The wires as the architecture declares them, and the connections renamed: a connection fed by a wire
+// whose key was declared already takes the name of the wire declared last before it. Lists that do not
+// change are not copied.
+struct Declaration {
+  std::optional<std::vector<NetlistWire>> wires;
+  std::optional<std::vector<NetlistConnection>> connections;
+  std::vector<bool> declared;
+};
+
+Declaration declareWires(const Netlist& netlist, const MainModuleWidening& widening, TextPool& texts) {
+  const std::vector<NetlistWire>& wires = netlist.wires();
+  Declaration result;
+  result.declared.assign(wires.size(), true);
   std::unordered_map<Name, Name> renamed;  // a wire not declared -> the wire declared last before it
   SeenItems declaredKeys(',', SeenItems::Layout::kSharedSeparators);
   Name lastDeclared;
-  for (size_t w = 0; w < parts.wires.size(); ++w) {
-    NetlistWire& wire = parts.wires[w];
-    if (wire.isConstant) continue;
-    widening.widen(wire, texts);
+  for (size_t w = 0; w < wires.size(); ++w) {
+    if (wires[w].isConstant) continue;
+    NetlistWire wire = wires[w];
+    if (widening.widen(wire, texts)) {
+      if (!result.wires) result.wires = wires;
+      (*result.wires)[w] = wire;
+    }
     if (!declaredKeys.contains(wire.sourceKey.view())) {
       declaredKeys.add(wire.sourceKey);
       lastDeclared = wire.name;
       continue;
     }
-    declared[w] = false;
+    result.declared[w] = false;
     if (wire.name != lastDeclared) renamed.emplace(wire.name, lastDeclared);
   }
   // A name given by a rename is a declared wire's, so no connection is renamed twice.
   if (!renamed.empty()) {
-    for (NetlistConnection& c : parts.connections) {
+    result.connections = netlist.connections();
+    for (NetlistConnection& c : *result.connections) {
       if (const auto it = renamed.find(c.peerName); it != renamed.end()) c.peerName = it->second;
     }
   }
-  return declared;
+  return result;
 }
 
 // The connections that feed one port of an instance, consecutive in the connection list.
 struct ConversionGroup {
   Name port;
-  int members = 0;
+  std::vector<size_t> members;
   long long rowsWidth = 0, bitsWidth = 0;
-  std::string joined;
 };
 
-std::vector<NetlistConversion> conversionsOf(Netlist::Parts& parts, const CnxDescription& description,
+std::vector<NetlistConversion> conversionsOf(const Netlist& netlist, const CnxDescription& description,
                                              TextPool& texts) {
+  const std::vector<NetlistConnection>& connections = netlist.connections();
   std::unordered_map<Name, std::vector<size_t>> byInstance;
-  for (size_t i = 0; i < parts.connections.size(); ++i)
-    byInstance[parts.connections[i].ownInstance].push_back(i);
+  for (size_t i = 0; i < connections.size(); ++i) byInstance[connections[i].ownInstance].push_back(i);
 
+  int32_t nextWireNumber = netlist.nextWireNumber();
+  ShapeTexts ranges;
   std::vector<NetlistConversion> conversions;
   for (const CnxModule& module : description.modules) {
     const Name instance = module.instanceName;
@@ -65,28 +81,31 @@ std::vector<NetlistConversion> conversionsOf(Netlist::Parts& parts, const CnxDes
     if (taken == byInstance.end()) continue;
     ConversionGroup group;
     auto close = [&] {
-      if (group.members >= 2) {
+      if (group.members.size() >= 2) {
         NetlistConversion conversion;
-        conversion.name = texts.intern(formatText("sub_wire%d", parts.nextWireNumber++));
-        conversion.joinedText = std::move(group.joined);
+        conversion.name = texts.intern(formatText("sub_wire%d", nextWireNumber++));
+        for (size_t k = 0; k < group.members.size(); ++k) {
+          const NetlistConnection& c = connections[group.members[k]];
+          if (k > 0) conversion.joinedText += " & ";
+          conversion.joinedText += c.peerName.view();
+          conversion.joinedText += ranges.get(keyOf(c.peer), [&c] { return vhdlRangeText(c.peer); });
+        }
         conversion.key = instance.str() + "." + group.port.str();
         conversion.port = group.port;
         conversion.rowsWidth = Bound::ofNumber(group.rowsWidth, texts);
         conversion.bitsWidth = Bound::ofNumber(group.bitsWidth, texts);
         conversions.push_back(std::move(conversion));
       }
-      group = ConversionGroup{};
+      group.members.clear();
+      group.rowsWidth = group.bitsWidth = 0;
     };
     for (size_t i : taken->second) {
-      const NetlistConnection& connection = parts.connections[i];
-      if (group.members > 0 && connection.ownPort != group.port) close();
-      if (group.members == 0) group.port = connection.ownPort;
+      const NetlistConnection& connection = connections[i];
+      if (!group.members.empty() && connection.ownPort != group.port) close();
+      if (group.members.empty()) group.port = connection.ownPort;
       group.rowsWidth += vhdlIntegerOf(connection.own.rows.width);
       group.bitsWidth += vhdlIntegerOf(connection.own.bits.width);
-      if (group.members > 0) group.joined += " & ";
-      group.joined += connection.peerName.view();
-      group.joined += vhdlRangeText(connection.peer);
-      ++group.members;
+      group.members.push_back(i);
     }
     close();
   }
@@ -97,12 +116,14 @@ std::vector<NetlistConversion> conversionsOf(Netlist::Parts& parts, const CnxDes
 
 VhdlNetlist declareVhdlSignals(const Netlist& netlist, const CnxDescription& description,
                                std::string_view signatureName) {
-  Netlist::Parts parts = netlist.parts();
   auto texts = std::make_unique<TextPool>();
+  Declaration declaration = declareWires(netlist, MainModuleWidening(description, signatureName), *texts);
   VhdlNetlist result;
-  result.declared = declareWires(parts, MainModuleWidening(description, signatureName), *texts);
-  result.conversions = conversionsOf(parts, description, *texts);
-  result.netlist = Netlist(std::move(parts), std::move(texts));
+  result.declared = std::move(declaration.declared);
+  TextPool& pool = *texts;
+  result.netlist =
+      Netlist(netlist, std::move(declaration.wires), std::move(declaration.connections), std::move(texts));
+  result.conversions = conversionsOf(result.netlist, description, pool);
   return result;
 }
 

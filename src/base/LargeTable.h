@@ -1,0 +1,40 @@
+// An allocator for large hash tables, which are read at random: an allocation of 2 MiB or more is placed on
+// huge pages where the system offers them, so that a lookup does not also miss the address translation.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <new>
+
+namespace plovix {
+
+// Places `bytes` of storage on huge pages where possible; for LargeTableAllocator.
+void* allocateLargeTable(size_t bytes);
+void releaseLargeTable(void* storage);
+
+inline constexpr size_t kLargeTableBytes = size_t{2} << 20;
+
+template <class T>
+struct LargeTableAllocator {
+  using value_type = T;
+
+  LargeTableAllocator() = default;
+  template <class U>
+  LargeTableAllocator(const LargeTableAllocator<U>&) {}
+
+  T* allocate(size_t n) {
+    if (n * sizeof(T) < kLargeTableBytes) return std::allocator<T>().allocate(n);
+    return static_cast<T*>(allocateLargeTable(n * sizeof(T)));
+  }
+  void deallocate(T* storage, size_t n) {
+    if (n * sizeof(T) < kLargeTableBytes) return std::allocator<T>().deallocate(storage, n);
+    releaseLargeTable(storage);
+  }
+
+  template <class U>
+  friend bool operator==(const LargeTableAllocator&, const LargeTableAllocator<U>&) {
+    return true;
+  }
+};
+
+}  // namespace plovix
