@@ -89,12 +89,26 @@ void CnxConnectionMapBuilder::file(Name instance, Name port, const CnxConnection
   const auto [instanceId, newInstance] =
       instanceOf_.tryEmplace(instance, static_cast<uint32_t>(instanceNames_.size()));
   if (newInstance) instanceNames_.push_back(instance);
-  const auto [portId, newPort] =
-      portOf_.tryEmplace(PortKey{*instanceId, port}, static_cast<uint32_t>(ports_.size()));
-  if (newPort) ports_.push_back(FiledPort{*instanceId, port});
-  ++ports_[*portId].endCount;
+  const uint32_t portId = portOf(*instanceId, port);
+  ++ports_[portId].endCount;
   ends_.push_back(end);
-  portOfEnd_.push_back(*portId);
+  portOfEnd_.push_back(portId);
+}
+
+// The list of (instance, port), made when missing. Most names are filed under one instance only: the tag of
+// the name finds its first list without a lookup, and the map holds the others.
+uint32_t CnxConnectionMapBuilder::portOf(uint32_t instance, Name port) {
+  const uint32_t next = static_cast<uint32_t>(ports_.size());
+  const uint32_t tag = names_->tag(port);
+  if (tag != 0 && ports_[tag - 1].instance == instance) return tag - 1;
+  if (tag == 0 && !port.empty()) {
+    names_->setTag(port, next + 1);
+  } else {
+    const auto [found, added] = portOf_.tryEmplace(PortKey{instance, port}, next);
+    if (!added) return *found;
+  }
+  ports_.push_back(FiledPort{instance, port});
+  return next;
 }
 
 CnxConnectionMap CnxConnectionMapBuilder::finish() {
@@ -153,7 +167,7 @@ CnxConnectionMap CnxConnectionMapBuilder::finish() {
   for (const CnxConnectionMap::Port& port : map.ports_)
     orderByBitPosition(std::span<CnxConnectionEnd>(map.ends_).subspan(port.firstEnd, port.endCount));
 
-  *this = CnxConnectionMapBuilder();
+  *this = CnxConnectionMapBuilder(*names_);
   return map;
 }
 

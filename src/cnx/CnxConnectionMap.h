@@ -81,8 +81,13 @@ class CnxConnectionMap {
 };
 
 // Files the ends of a whole file as the reader meets them, and puts them in their walking order at the end.
+// The port names filed must be names of `names`: the builder finds a port's list through the tag of its
+// name (the first list filed under the name, for any instance), and keeps a map only for the names filed
+// under several instances.
 class CnxConnectionMapBuilder {
  public:
+  explicit CnxConnectionMapBuilder(TextPool& names) : names_(&names) {}
+
   void file(Name instance, Name port, const CnxConnectionEnd& end);
   // The map; the builder is empty afterwards.
   CnxConnectionMap finish();
@@ -104,11 +109,14 @@ class CnxConnectionMapBuilder {
     uint32_t endCount = 0;
   };
 
+  uint32_t portOf(uint32_t instance, Name port);
+
+  TextPool* names_;
   std::vector<Name> instanceNames_;  // in the order first filed
   FlatMap<Name, uint32_t, NameHash> instanceOf_;
-  std::vector<FiledPort> ports_;  // in the order first filed
-  FlatMap<PortKey, uint32_t, PortKeyHash> portOf_;
-  std::vector<CnxConnectionEnd> ends_;  // in file order
+  std::vector<FiledPort> ports_;                    // in the order first filed
+  FlatMap<PortKey, uint32_t, PortKeyHash> portOf_;  // the lists not found through their name's tag
+  std::vector<CnxConnectionEnd> ends_;              // in file order
   std::vector<uint32_t> portOfEnd_;
 };
 

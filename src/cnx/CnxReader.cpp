@@ -73,7 +73,7 @@ bool readLines(CnxOperands& in, CnxLine& line, TextLineCursor& lines, CnxDescrip
   if (d.version == kVersionUnknown) return in.fail(Msg::kCnxUnknownVersionNumber);
   // Only the WM1.0 body has a reader; a WM2.0 file fails without a log entry.
   if (d.version != "WM1.0") return false;
-  CnxBuild build{d, {}};
+  CnxBuild build{d, CnxConnectionMapBuilder(*d.names)};
   return readBody(in, line, lines, build);
 }
 

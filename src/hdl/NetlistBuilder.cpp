@@ -84,10 +84,10 @@ void NetlistBuilder::chooseCase(Pending& p) {
 // low index follows the range in use.
 void NetlistBuilder::widenVariationPort(Pending& p) {
   NetlistConnection& c = p.c;
-  if (const auto it = widened_.find(c.peerName); it != widened_.end()) {
-    c.peerName = it->second.wire;
-    c.peer.rows.width = it->second.rowsWidth;
-    c.peer.bits.width = it->second.bitsWidth;
+  if (const WidenedPort* widened = widened_.find(c.peerName)) {
+    c.peerName = widened->wire;
+    c.peer.rows.width = widened->rowsWidth;
+    c.peer.bits.width = widened->bitsWidth;
   } else {
     for (const CnxUsedPort& input : description_.inputPorts) {
       if (input.name != c.peerName) continue;
@@ -97,7 +97,7 @@ void NetlistBuilder::widenVariationPort(Pending& p) {
     }
     const Name port = c.peerName;
     c.peerName = wireFor(p);
-    widened_.emplace(port, WidenedPort{c.peerName, c.peer.rows.width, c.peer.bits.width});
+    widened_.tryEmplace(port, WidenedPort{c.peerName, c.peer.rows.width, c.peer.bits.width});
   }
   if (c.peer.bits.present() && !c.peer.rows.present() && !c.peer.rows.low.isZero() &&
       c.peer.bits.low.isZero())

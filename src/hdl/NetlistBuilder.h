@@ -5,8 +5,8 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 
+#include "cnx/FlatMap.h"
 #include "hdl/Netlist.h"
 
 namespace plovix {
@@ -65,8 +65,8 @@ class NetlistBuilder {
   struct RangeKeyHash {
     size_t operator()(const RangeKey& key) const { return key.width * 0x9E3779B97F4A7C15ull ^ key.low; }
   };
-  std::unordered_map<RangeKey, Name, RangeKeyHash> rangeTexts_;
-  std::unordered_map<Name, WidenedPort> widened_;
+  FlatMap<RangeKey, Name, RangeKeyHash> rangeTexts_;
+  FlatMap<Name, WidenedPort, NameHash> widened_;
   std::string buffer_;
 
   // The packing of the current port's rows: whether its first row was seen, the flat-side record and the

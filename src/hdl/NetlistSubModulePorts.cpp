@@ -1,9 +1,9 @@
 // The merged ports of the instantiated sub-modules, with the direction each is used in.
 #include <string>
-#include <unordered_map>
-#include <unordered_set>
 
 #include "base/TextHelpers.h"
+#include "cnx/FlatMap.h"
+#include "cnx/NameSet.h"
 #include "hdl/NetlistBuilder.h"
 
 namespace plovix {
@@ -53,47 +53,47 @@ bool allZero(const Shape& shape) {
 // its own ports in the end.
 void NetlistBuilder::buildSubModulePorts() {
   TextPool& texts = *texts_;
-  std::unordered_set<Name> bidirOutputs;
+  NameSet bidirOutputs;
   for (const CnxUsedPort& port : description_.outputPorts) {
     if (port.direction == PortDirection::kBidir) bidirOutputs.insert(port.name);
   }
   std::vector<SubModulePort>& records = parts_.subModulePorts;
-  std::unordered_map<ModulePortKey, size_t, ModulePortKeyHash> recordOf;
+  FlatMap<ModulePortKey, size_t, ModulePortKeyHash> recordOf;
   const CnxConnectionMap& map = description_.connectionMap;
   for (const CnxModule& module : description_.modules) {
     const CnxConnectionMap::Instance* instance = map.findInstance(module.instanceName);
     if (instance == nullptr) continue;
     for (const CnxConnectionMap::Port& port : map.portsOf(*instance)) {
-      const auto [it, added] =
-          recordOf.try_emplace(ModulePortKey{module.moduleName, port.name}, records.size());
+      const auto [index, added] =
+          recordOf.tryEmplace(ModulePortKey{module.moduleName, port.name}, records.size());
+      const size_t record = *index;
       for (const CnxConnectionEnd& e : map.endsOf(port)) {
         if (!added || &e != &map.endsOf(port).front()) {
-          mergeEnd(records[it->second], e, texts);
+          mergeEnd(records[record], e, texts);
           continue;
         }
-        SubModulePort record;
-        record.moduleName = module.moduleName;
-        record.portName = port.name;
-        record.shape = e.own;
-        record.shape.rows.width = Bound::ofNumber(e.own.rows.width.value() + e.own.rows.low.value(), texts);
-        record.scalar = allZero(e.own);
-        record.direction = e.peerIsSource ? SubModuleDirection::kIn : SubModuleDirection::kOut;
-        if (e.peerInstance.empty() && bidirOutputs.count(e.peerPort) != 0)
-          record.direction = SubModuleDirection::kInOut;
-        records.push_back(record);
+        SubModulePort made;
+        made.moduleName = module.moduleName;
+        made.portName = port.name;
+        made.shape = e.own;
+        made.shape.rows.width = Bound::ofNumber(e.own.rows.width.value() + e.own.rows.low.value(), texts);
+        made.scalar = allZero(e.own);
+        made.direction = e.peerIsSource ? SubModuleDirection::kIn : SubModuleDirection::kOut;
+        if (e.peerInstance.empty() && bidirOutputs.contains(e.peerPort.view()))
+          made.direction = SubModuleDirection::kInOut;
+        records.push_back(made);
       }
     }
   }
   // The first record of the modulon's own module for every port name.
   const std::string signature = toLowerText(signatureName_);
-  std::unordered_map<Name, size_t> ownPortRecord;
+  FlatMap<Name, size_t, NameHash> ownPortRecord;
   for (size_t i = 0; i < records.size(); ++i) {
     if (toLowerText(records[i].moduleName.view()) == signature)
-      ownPortRecord.try_emplace(records[i].portName, i);
+      ownPortRecord.tryEmplace(records[i].portName, i);
   }
   for (const CnxUsedPort& mainPort : description_.mainModulePorts) {
-    if (const auto it = ownPortRecord.find(mainPort.name); it != ownPortRecord.end())
-      records[it->second].shape = mainPort.shape;
+    if (const size_t* record = ownPortRecord.find(mainPort.name)) records[*record].shape = mainPort.shape;
   }
 }
 

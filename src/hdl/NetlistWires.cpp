@@ -7,9 +7,9 @@ namespace plovix {
 
 Name NetlistBuilder::rangeText(Bound width, Bound low) {
   if (width.isZero()) return Name();
-  const auto [it, added] = rangeTexts_.try_emplace(RangeKey{width.raw(), low.raw()});
-  if (added) it->second = texts_->intern(plovix::rangeText(width, low));
-  return it->second;
+  const auto [text, added] = rangeTexts_.tryEmplace(RangeKey{width.raw(), low.raw()}, Name());
+  if (added) *text = texts_->intern(plovix::rangeText(width, low));
+  return *text;
 }
 
 // The key of a connection's driving end followed by its two range texts.

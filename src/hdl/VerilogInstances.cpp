@@ -7,6 +7,7 @@
 
 #include "base/Format.h"
 #include "base/TextHelpers.h"
+#include "hdl/InstanceGroups.h"
 #include "hdl/VerilogFileWriter.h"
 
 namespace plovix {
@@ -15,11 +16,11 @@ namespace {
 
 // The netlist grouped by instance once, so that each instance does not scan every connection and wire.
 struct InstanceIndex {
-  std::unordered_map<Name, std::vector<const NetlistConnection*>> connectionsOf;  // by ownInstance
+  InstanceGroups connectionsOf;                                                   // by ownInstance
   std::unordered_map<std::string_view, std::vector<const NetlistWire*>> wiresOf;  // by sourceText up to "."
 
-  InstanceIndex(const std::vector<NetlistConnection>& connections, const std::vector<NetlistWire>& wires) {
-    for (const NetlistConnection& c : connections) connectionsOf[c.ownInstance].push_back(&c);
+  InstanceIndex(const std::vector<NetlistConnection>& connections, const std::vector<NetlistWire>& wires)
+      : connectionsOf(connections) {
     for (const NetlistWire& w : wires) {
       const std::string_view source = w.sourceText.view();
       if (!w.isInverted) wiresOf[source.substr(0, source.find('.'))].push_back(&w);
@@ -28,9 +29,9 @@ struct InstanceIndex {
 };
 
 // (i) The connections driving the instance's ports, grouped by consecutive equal port.
-std::string connectionItems(const std::vector<const NetlistConnection*>* list) {
+std::string connectionItems(const std::vector<NetlistConnection>& connections,
+                            std::span<const uint32_t> list) {
   std::string items;
-  if (list == nullptr) return items;
   const char* separator = "";
   Name port;
   std::string rightHand;
@@ -41,7 +42,8 @@ std::string connectionItems(const std::vector<const NetlistConnection*>* list) {
     appendFormatted(items, "%s\t\t\t\t.%s (%s)", separator, port.c_str(), toLowerText(rightHand).c_str());
     separator = ",\n";
   };
-  for (const NetlistConnection* c : *list) {
+  for (const uint32_t i : list) {
+    const NetlistConnection* c = &connections[i];
     if (members > 0 && c->ownPort != port) {
       close();
       members = 0;
@@ -108,7 +110,8 @@ std::string VerilogFileWriter::instancesText(const VerilogNetlist& declaration) 
   for (const CnxModule& module : description_.modules) {
     const Name instance = module.instanceName;
     if (instance.empty()) continue;
-    const std::string fromConnections = connectionItems(findIn(index.connectionsOf, instance));
+    const std::string fromConnections =
+        connectionItems(declaration.netlist.connections(), index.connectionsOf.of(instance));
     const std::string label = instance.str() + "_component";
     const std::string fromWires = wireItems(findIn(index.wiresOf, std::string_view(label)));
     const char* joint = !fromConnections.empty() && !fromWires.empty() ? ",\n" : "";

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/Format.h"
+#include "hdl/InstanceGroups.h"
 #include "hdl/VhdlFileWriter.h"
 #include "hdl/VhdlTextRules.h"
 
@@ -28,18 +29,16 @@ std::string genericMapText(const CnxDescription& description, Name instance) {
 
 // Where the port map entries of every instance come from, gathered once for all instances.
 struct PortMapSources {
-  std::unordered_map<Name, std::vector<size_t>> connectionsByInstance;
+  explicit PortMapSources(const VhdlNetlist& signals)
+      : connectionsByInstance(signals.netlist.connections()) {}
+  InstanceGroups connectionsByInstance;
   std::unordered_map<std::string, Name> conversionByKey;                   // the first conversion of a key
   std::unordered_map<std::string_view, std::vector<size_t>> wiresByLabel;  // not inverted, by text before "."
 };
 
 PortMapSources gatherSources(const VhdlNetlist& signals) {
-  const std::vector<NetlistConnection>& connections = signals.netlist.connections();
   const std::vector<NetlistWire>& wires = signals.netlist.wires();
-  PortMapSources sources;
-  for (size_t i = 0; i < connections.size(); ++i) {
-    sources.connectionsByInstance[connections[i].ownInstance].push_back(i);
-  }
+  PortMapSources sources(signals);
   for (const NetlistConversion& conversion : signals.conversions) {
     sources.conversionByKey.emplace(conversion.key, conversion.name);
   }
@@ -81,10 +80,10 @@ std::string VhdlFileWriter::instancesText(const VhdlNetlist& signals) const {
         addEntry(port.view(), right);
       }
     };
-    const auto taken = sources.connectionsByInstance.find(instance);
-    if (taken != sources.connectionsByInstance.end()) {
+    const std::span<const uint32_t> taken = sources.connectionsByInstance.of(instance);
+    if (!taken.empty()) {
       bool first = true;
-      for (size_t i : taken->second) {
+      for (const uint32_t i : taken) {
         const NetlistConnection& c = connections[i];
         if (first || c.ownPort != port) {
           if (!first) close();

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "base/Format.h"
+#include "hdl/InstanceGroups.h"
 #include "hdl/MainModuleWires.h"
 #include "hdl/SeenItems.h"
 #include "hdl/ShapeTexts.h"
@@ -31,6 +32,19 @@ Declaration declareWires(const Netlist& netlist, const MainModuleWidening& widen
   const std::vector<NetlistWire>& wires = netlist.wires();
   Declaration result;
   result.declared.assign(wires.size(), true);
+  // The builder gives every wire a key of its own. Only a widened wire can repeat a key, and only a key
+  // with a comma can be found inside the text of others; without either every wire is declared as it is.
+  bool keysRepeat = false;
+  for (const NetlistWire& wire : wires) {
+    if (wire.isConstant) continue;
+    NetlistWire widened = wire;
+    if (widening.widen(widened, texts) || wire.sourceKey.view().find(',') != std::string_view::npos) {
+      keysRepeat = true;
+      break;
+    }
+  }
+  if (!keysRepeat) return result;
+
   std::unordered_map<Name, Name> renamed;  // a wire not declared -> the wire declared last before it
   SeenItems declaredKeys(',', SeenItems::Layout::kSharedSeparators);
   Name lastDeclared;
@@ -69,16 +83,15 @@ struct ConversionGroup {
 std::vector<NetlistConversion> conversionsOf(const Netlist& netlist, const CnxDescription& description,
                                              TextPool& texts) {
   const std::vector<NetlistConnection>& connections = netlist.connections();
-  std::unordered_map<Name, std::vector<size_t>> byInstance;
-  for (size_t i = 0; i < connections.size(); ++i) byInstance[connections[i].ownInstance].push_back(i);
+  const InstanceGroups byInstance(connections);
 
   int32_t nextWireNumber = netlist.nextWireNumber();
   ShapeTexts ranges;
   std::vector<NetlistConversion> conversions;
   for (const CnxModule& module : description.modules) {
     const Name instance = module.instanceName;
-    const auto taken = byInstance.find(instance);
-    if (taken == byInstance.end()) continue;
+    const std::span<const uint32_t> taken = byInstance.of(instance);
+    if (taken.empty()) continue;
     ConversionGroup group;
     auto close = [&] {
       if (group.members.size() >= 2) {
@@ -99,7 +112,7 @@ std::vector<NetlistConversion> conversionsOf(const Netlist& netlist, const CnxDe
       group.members.clear();
       group.rowsWidth = group.bitsWidth = 0;
     };
-    for (size_t i : taken->second) {
+    for (const uint32_t i : taken) {
       const NetlistConnection& connection = connections[i];
       if (!group.members.empty() && connection.ownPort != group.port) close();
       if (group.members.empty()) group.port = connection.ownPort;
