@@ -49,26 +49,34 @@ void appendFormatted(std::string& out, const char* format, ...) {
   va_end(copy);
 }
 
-std::string fillTemplate(std::string_view format, std::initializer_list<std::string_view> texts) {
-  std::vector<std::string_view> parts(texts);
-  size_t size = format.size();
-  for (std::string_view& text : parts) {
-    text = text.substr(0, text.find('\0'));
-    size += text.size();
+void TemplatePart::appendTo(std::string& out) const {
+  if (!append_) {
+    out += text_.substr(0, text_.find('\0'));
+    return;
   }
+  const size_t start = out.size();
+  append_(out);
+  const size_t nul = out.find('\0', start);
+  if (nul != std::string::npos) out.resize(nul);
+}
+
+std::string fillTemplate(std::string_view format, std::initializer_list<TemplatePart> parts) {
   std::string result;
-  result.reserve(size);
+  appendTemplate(result, format, parts);
+  return result;
+}
+
+void appendTemplate(std::string& result, std::string_view format, std::initializer_list<TemplatePart> parts) {
   auto next = parts.begin();
   for (size_t i = 0; i < format.size(); ++i) {
     if (format[i] != '%' || i + 1 == format.size()) {
       result += format[i];
     } else if (format[++i] == 's') {
-      if (next != parts.end()) result += *next++;
+      if (next != parts.end()) (next++)->appendTo(result);
     } else {
       result += format[i];
     }
   }
-  return result;
 }
 
 std::string formatInt(long long value) {

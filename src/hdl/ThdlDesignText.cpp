@@ -60,9 +60,9 @@ void appendEquation(std::string& out, RangeTexts& ranges, Name instance, Name po
 }  // namespace
 
 std::string ThdlFileWriter::buildDesignText() const {
-  return fillTemplate("%s\n%s\n%s%s%s%s%s%s\n",
-                      {headerText(), legalNoticeText(), includeStatements(), "", parameterSection(),
-                       subdesignSection(), variableSection(), logicSection()});
+  return fillTemplate("%s\n%s\n%s%s%s%s%s%s\n", {headerText(), legalNoticeText(), includeStatements(), "",
+                                                 parameterSection(), subdesignSection(), variableSection(),
+                                                 [this](std::string& out) { appendLogicSection(out); }});
 }
 
 std::string ThdlFileWriter::includeStatements() const {
@@ -104,12 +104,19 @@ std::string ThdlFileWriter::variableSection() const {
 
 // One equation per connection, written from its driven end, in the connection map's order.
 std::string ThdlFileWriter::logicSection() const {
-  std::string equations;
-  RangeTexts ranges;
-  description_.connectionMap.forEachEnd([&](Name instance, Name port, const CnxConnectionEnd& end) {
-    if (end.peerIsSource) appendEquation(equations, ranges, instance, port, end);
-  });
-  return fillTemplate("BEGIN\n\n%sEND;\n\n\n", {equations});
+  std::string text;
+  appendLogicSection(text);
+  return text;
+}
+
+void ThdlFileWriter::appendLogicSection(std::string& text) const {
+  appendTemplate(
+      text, "BEGIN\n\n%sEND;\n\n\n", {[this](std::string& equations) {
+        RangeTexts ranges;
+        description_.connectionMap.forEachEnd([&](Name instance, Name port, const CnxConnectionEnd& end) {
+          if (end.peerIsSource) appendEquation(equations, ranges, instance, port, end);
+        });
+      }});
 }
 
 }  // namespace plovix

@@ -27,6 +27,9 @@ class ThdlFileWriter : public HdlFileWriter {
   std::string subdesignSection() const;
   std::string variableSection() const;
   std::string logicSection() const;
+
+ private:
+  void appendLogicSection(std::string& text) const;
 };
 
 // "[upper..low]" of a range, or empty when its width is "0".

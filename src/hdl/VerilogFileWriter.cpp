@@ -19,11 +19,12 @@ VerilogFileWriter::VerilogFileWriter(UserInterface& ui, std::string basePath, st
 
 std::string VerilogFileWriter::buildDesignText() const {
   const VerilogNetlist wires = declareVerilogWires(netlist_, description_, signatureName_);
-  std::string body = wireText(wires);
-  body += instancesText(wires);
   return fillTemplate("%s\n%s\nmodule %s (\n%s%s%s\n%s\nendmodule\n\n",
                       {headerText(), legalNoticeText(), fileName_, portListText(), portDeclarationText(),
-                       parameterBlockText(), body});
+                       parameterBlockText(), [&](std::string& body) {
+                         appendWires(body, wires);
+                         appendInstances(body, wires);
+                       }});
 }
 
 std::string VerilogFileWriter::buildCompanionText() const {

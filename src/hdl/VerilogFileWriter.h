@@ -37,6 +37,10 @@ class VerilogFileWriter : public HdlFileWriter {
   std::string instancesText(const VerilogNetlist& wires) const;
 
  private:
+  // The body's sections append themselves to the design text as it is built.
+  void appendWires(std::string& text, const VerilogNetlist& wires) const;
+  void appendInstances(std::string& text, const VerilogNetlist& wires) const;
+
   const Netlist& netlist_;
 };
 

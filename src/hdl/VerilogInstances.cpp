@@ -105,8 +105,13 @@ const typename Map::mapped_type* findIn(const Map& map, const Key& key) {
 }  // namespace
 
 std::string VerilogFileWriter::instancesText(const VerilogNetlist& declaration) const {
-  const InstanceIndex index(declaration.netlist.connections(), declaration.netlist.wires());
   std::string text;
+  appendInstances(text, declaration);
+  return text;
+}
+
+void VerilogFileWriter::appendInstances(std::string& text, const VerilogNetlist& declaration) const {
+  const InstanceIndex index(declaration.netlist.connections(), declaration.netlist.wires());
   for (const CnxModule& module : description_.modules) {
     const Name instance = module.instanceName;
     if (instance.empty()) continue;
@@ -116,12 +121,11 @@ std::string VerilogFileWriter::instancesText(const VerilogNetlist& declaration) 
     const std::string fromWires = wireItems(findIn(index.wiresOf, std::string_view(label)));
     const char* joint = !fromConnections.empty() && !fromWires.empty() ? ",\n" : "";
     const std::string ports = fromConnections + joint + fromWires;
-    text += fillTemplate("\n\t%s\t%s_component (\n%s);\n",
-                         {toLowerText(module.moduleName.view()), instance.view(), ports});
+    appendTemplate(text, "\n\t%s\t%s_component (\n%s);\n",
+                   {toLowerText(module.moduleName.view()), instance.view(), ports});
     const std::string lines = defparamLines(description_, instance);
     if (!lines.empty()) text += "\tdefparam\n" + lines + ";\n\n";
   }
-  return text;
 }
 
 }  // namespace plovix

@@ -58,8 +58,13 @@ struct OutputGroup {
 // last group is written unless its output has an empty name (possible only for a "@" reference before the
 // first MODULE: line), which has always been left out.
 std::string VerilogFileWriter::wireText(const VerilogNetlist& declaration) const {
-  const Netlist& netlist = declaration.netlist;
   std::string text;
+  appendWires(text, declaration);
+  return text;
+}
+
+void VerilogFileWriter::appendWires(std::string& text, const VerilogNetlist& declaration) const {
+  const Netlist& netlist = declaration.netlist;
   RangeTexts ranges;
   for (size_t w = 0; w < netlist.wires().size(); ++w) {
     const NetlistWire& wire = netlist.wires()[w];
@@ -94,7 +99,6 @@ std::string VerilogFileWriter::wireText(const VerilogNetlist& declaration) const
     group.rightHand += c.peerBitsRange.view();
   }
   if (open && !group.port.empty()) text += toLowerText(group.text());
-  return text;
 }
 
 }  // namespace plovix

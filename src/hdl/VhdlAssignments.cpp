@@ -17,19 +17,21 @@ namespace plovix {
 
 namespace {
 
-// The assignment text built so far, with its lines indexed so that a repeated line is found without
-// searching the text. As long as every line has its one tab at the start and its one line feed at the end,
-// the text contains a line exactly when the index holds it; otherwise the text is searched. The index keeps
-// each line's place in the text, in an open-addressing table.
+// The assignment text built so far (at the end of `out`, from where it started), with its lines indexed so
+// that a repeated line is found without searching the text. As long as every line has its one tab at the
+// start and its one line feed at the end, the text contains a line exactly when the index holds it;
+// otherwise the text is searched. The index keeps each line's place, in an open-addressing table.
 class AssignmentText {
  public:
+  explicit AssignmentText(std::string& out) : out_(out), start_(out.size()) {}
+
   void append(const std::string& line) {
     if (!isPlainLine(line)) plain_ = false;
     if (plain_) index(line);
-    text_ += line;
+    out_ += line;
   }
   bool contains(const std::string& line) const {
-    if (!plain_ || !isPlainLine(line)) return text_.find(line) != std::string::npos;
+    if (!plain_ || !isPlainLine(line)) return text().find(line) != std::string_view::npos;
     if (slots_.empty()) return false;
     const size_t hash = std::hash<std::string_view>{}(line);
     for (size_t i = hash & (slots_.size() - 1);; i = (i + 1) & (slots_.size() - 1)) {
@@ -38,7 +40,7 @@ class AssignmentText {
       if (slot.hash == hash && lineAt(slot) == line) return true;
     }
   }
-  const std::string& text() const { return text_; }
+  std::string_view text() const { return std::string_view(out_).substr(start_); }
 
  private:
   struct Slot {
@@ -52,7 +54,7 @@ class AssignmentText {
            line.find_first_of("\t\n", 1) == line.size() - 1;
   }
   std::string_view lineAt(const Slot& slot) const {
-    return std::string_view(text_).substr(slot.offset, slot.length);
+    return std::string_view(out_).substr(slot.offset, slot.length);
   }
 
   // Adds the line that is about to be appended at the end of the text.
@@ -62,7 +64,7 @@ class AssignmentText {
       return;
     }
     if ((count_ + 1) * 2 > slots_.size()) grow();
-    place(Slot{std::hash<std::string_view>{}(line), static_cast<uint32_t>(line.size()), text_.size()});
+    place(Slot{std::hash<std::string_view>{}(line), static_cast<uint32_t>(line.size()), out_.size()});
     ++count_;
   }
   void place(const Slot& slot) {
@@ -78,7 +80,8 @@ class AssignmentText {
     }
   }
 
-  std::string text_;
+  std::string& out_;
+  size_t start_;
   std::vector<Slot, LargeTableAllocator<Slot>> slots_;  // a power of two long, at most half full
   size_t count_ = 0;
   bool plain_ = true;
@@ -238,14 +241,19 @@ class GroupedAssignments {
 }  // namespace
 
 std::string VhdlFileWriter::concurrentAssignmentsText(const VhdlNetlist& signals) const {
+  std::string text;
+  appendConcurrentAssignments(text, signals);
+  return text;
+}
+
+void VhdlFileWriter::appendConcurrentAssignments(std::string& text, const VhdlNetlist& signals) const {
   const Netlist& netlist = signals.netlist;
-  AssignmentText out;
+  AssignmentText out(text);
   appendWireAssignments(netlist.wires(), out);
   GroupedAssignments grouped(netlist.wires(), out);
   for (const NetlistConnection& connection : netlist.connections()) grouped.add(connection);
   grouped.finish();
 
-  std::string text = out.text();
   for (const NetlistConversion& conversion : signals.conversions)
     text += assignmentLine(conversion.name.view(), conversion.joinedText);
   if (netlist.packsRows()) {
@@ -257,7 +265,6 @@ std::string VhdlFileWriter::concurrentAssignmentsText(const VhdlNetlist& signals
     appendFormatted(text, "\n\tconv_2_2d(signal_out => %s, signal_in => %s);\n\n", rowSide.c_str(),
                     flatSide.c_str());
   }
-  return text;
 }
 
 }  // namespace plovix

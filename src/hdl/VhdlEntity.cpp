@@ -9,6 +9,11 @@ namespace plovix {
 
 std::string VhdlFileWriter::portListText() const {
   std::string text;
+  appendPortList(text);
+  return text;
+}
+
+void VhdlFileWriter::appendPortList(std::string& text) const {
   ShapeTexts types;
   const char* separator = "";
   for (const auto* ports : {&description_.inputPorts, &description_.outputPorts}) {
@@ -20,12 +25,11 @@ std::string VhdlFileWriter::portListText() const {
       separator = ";\n";
     }
   }
-  return text;
 }
 
 std::string VhdlFileWriter::entityText() const {
   return fillTemplate("\nENTITY %s IS\n\tPORT\n\t(\n%s\n\t);\nEND %s;\n\n\n",
-                      {fileName_, portListText(), fileName_});
+                      {fileName_, [this](std::string& out) { appendPortList(out); }, fileName_});
 }
 
 }  // namespace plovix

@@ -15,15 +15,17 @@ VhdlFileWriter::VhdlFileWriter(UserInterface& ui, std::string basePath, std::str
 
 std::string VhdlFileWriter::buildDesignText() const {
   const VhdlNetlist signals = declareVhdlSignals(netlist_, description_, signatureName_);
-  return fillTemplate("%s\n%s\n%s%sARCHITECTURE SYN OF %s IS\n\n%s\n%sBEGIN\n%s\n%sEND SYN;\n\n",
-                      {headerText(), legalNoticeText(), libraryClausesText(), entityText(), fileName_,
-                       signalDeclarationsText(signals), componentDeclarationsText(),
-                       concurrentAssignmentsText(signals), instancesText(signals)});
+  return fillTemplate(
+      "%s\n%s\n%s%sARCHITECTURE SYN OF %s IS\n\n%s\n%sBEGIN\n%s\n%sEND SYN;\n\n",
+      {headerText(), legalNoticeText(), libraryClausesText(), entityText(), fileName_,
+       [&](std::string& out) { appendSignalDeclarations(out, signals); }, componentDeclarationsText(),
+       [&](std::string& out) { appendConcurrentAssignments(out, signals); },
+       [&](std::string& out) { appendInstances(out, signals); }});
 }
 
 std::string VhdlFileWriter::buildCompanionText() const {
   return fillTemplate("%s\n\ncomponent %s\n\tPORT\n\t(\n%s\n\t);\nend component;\n",
-                      {legalNoticeText(), fileName_, portListText()});
+                      {legalNoticeText(), fileName_, [this](std::string& out) { appendPortList(out); }});
 }
 
 std::string VhdlFileWriter::buildInstanceText() const {

@@ -38,6 +38,12 @@ class VhdlFileWriter : public HdlFileWriter {
   std::string instancesText(const VhdlNetlist& signals) const;
 
  private:
+  // The large sections append themselves to the design text as it is built.
+  void appendPortList(std::string& text) const;
+  void appendSignalDeclarations(std::string& text, const VhdlNetlist& signals) const;
+  void appendConcurrentAssignments(std::string& text, const VhdlNetlist& signals) const;
+  void appendInstances(std::string& text, const VhdlNetlist& signals) const;
+
   const Netlist& netlist_;
 };
 

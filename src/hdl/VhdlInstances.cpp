@@ -53,10 +53,15 @@ PortMapSources gatherSources(const VhdlNetlist& signals) {
 }  // namespace
 
 std::string VhdlFileWriter::instancesText(const VhdlNetlist& signals) const {
+  std::string text;
+  appendInstances(text, signals);
+  return text;
+}
+
+void VhdlFileWriter::appendInstances(std::string& text, const VhdlNetlist& signals) const {
   const std::vector<NetlistConnection>& connections = signals.netlist.connections();
   const std::vector<NetlistWire>& wires = signals.netlist.wires();
   const PortMapSources sources = gatherSources(signals);
-  std::string text;
   for (const CnxModule& module : description_.modules) {
     const Name instance = module.instanceName;
     std::string entries;
@@ -120,7 +125,6 @@ std::string VhdlFileWriter::instancesText(const VhdlNetlist& signals) const {
                          {label, module.moduleName.view(), genericMapText(description_, instance),
                           fillTemplate("\tPORT MAP (\n%s\n\t);\n\n", {entries})});
   }
-  return text;
 }
 
 }  // namespace plovix

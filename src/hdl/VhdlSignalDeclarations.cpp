@@ -13,6 +13,11 @@ namespace plovix {
 // declaration step widened it, when it is declared at all.
 std::string VhdlFileWriter::signalDeclarationsText(const VhdlNetlist& signals) const {
   std::string text;
+  appendSignalDeclarations(text, signals);
+  return text;
+}
+
+void VhdlFileWriter::appendSignalDeclarations(std::string& text, const VhdlNetlist& signals) const {
   if (netlist_.packsRows()) text += twoDimensionalProcedureText();
   const std::vector<NetlistWire>& wires = signals.netlist.wires();
   ShapeTexts types;
@@ -32,7 +37,6 @@ std::string VhdlFileWriter::signalDeclarationsText(const VhdlNetlist& signals) c
         text, "\tSIGNAL %s\t: %s;\n", conversion.name.c_str(),
         vhdlTypeText(Shape{{conversion.rowsWidth, Bound()}, {conversion.bitsWidth, Bound()}}).c_str());
   }
-  return text;
 }
 
 // The procedure is sized by the last two-dimensional wire as the netlist built it; a missing second width
