@@ -88,7 +88,10 @@ std::span<const CnxConnectionEnd> CnxConnectionMap::find(std::string_view instan
 void CnxConnectionMapBuilder::file(Name instance, Name port, const CnxConnectionEnd& end) {
   const auto [instanceId, newInstance] =
       instanceOf_.tryEmplace(instance, static_cast<uint32_t>(instanceNames_.size()));
-  if (newInstance) instanceNames_.push_back(instance);
+  if (newInstance) {
+    instanceNames_.push_back(instance);
+    instanceBuckets_.push_back(static_cast<uint8_t>(CnxConnectionMap::bucketOf(instance.view())));
+  }
   const uint32_t portId = portOf(*instanceId, port);
   ++ports_[portId].endCount;
   ends_.push_back(end);
@@ -107,7 +110,8 @@ uint32_t CnxConnectionMapBuilder::portOf(uint32_t instance, Name port) {
     const auto [found, added] = portOf_.tryEmplace(PortKey{instance, port}, next);
     if (!added) return *found;
   }
-  ports_.push_back(FiledPort{instance, port});
+  ports_.push_back(
+      FiledPort{instance, port, 0, static_cast<uint8_t>(CnxConnectionMap::bucketOf(port.view()))});
   return next;
 }
 
@@ -119,8 +123,7 @@ CnxConnectionMap CnxConnectionMapBuilder::finish() {
   // Instances by bucket, the newest first within a bucket.
   std::vector<uint32_t> instanceOrder(instanceNames_.size());
   for (uint32_t i = 0; i < instanceOrder.size(); ++i) instanceOrder[i] = i;
-  orderByBucket(instanceOrder,
-                [this](uint32_t i) { return CnxConnectionMap::bucketOf(instanceNames_[i].view()); });
+  orderByBucket(instanceOrder, [this](uint32_t i) { return instanceBuckets_[i]; });
 
   // The ports of each instance, in the order first filed.
   std::vector<uint32_t> portStart(instanceNames_.size() + 1, 0);
@@ -132,8 +135,7 @@ CnxConnectionMap CnxConnectionMapBuilder::finish() {
     for (uint32_t p = 0; p < ports_.size(); ++p) portIds[next[ports_[p].instance]++] = p;
   }
   std::vector<uint8_t> portBucket(ports_.size());
-  for (uint32_t p = 0; p < ports_.size(); ++p)
-    portBucket[p] = static_cast<uint8_t>(CnxConnectionMap::bucketOf(ports_[p].name.view()));
+  for (uint32_t p = 0; p < ports_.size(); ++p) portBucket[p] = ports_[p].bucket;
 
   // Walking order of instances, then of each instance's ports; every port's ends get their place.
   map.instances_.reserve(instanceOrder.size());

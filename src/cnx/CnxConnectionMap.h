@@ -107,12 +107,14 @@ class CnxConnectionMapBuilder {
     uint32_t instance;
     Name name;
     uint32_t endCount = 0;
+    uint8_t bucket = 0;  // of the name, taken while the name is at hand
   };
 
   uint32_t portOf(uint32_t instance, Name port);
 
   TextPool* names_;
-  std::vector<Name> instanceNames_;  // in the order first filed
+  std::vector<Name> instanceNames_;       // in the order first filed
+  std::vector<uint8_t> instanceBuckets_;  // the bucket of each
   FlatMap<Name, uint32_t, NameHash> instanceOf_;
   std::vector<FiledPort> ports_;                    // in the order first filed
   FlatMap<PortKey, uint32_t, PortKeyHash> portOf_;  // the lists not found through their name's tag
