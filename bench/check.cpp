@@ -15,6 +15,7 @@
 #include "TempDir.h"
 #include "base/Format.h"
 #include "base/UserInterface.h"
+#include "cnx/CnxReader.h"
 #include "entry/GenerateVariation.h"
 #include "entry/ManagerApp.h"
 
@@ -38,12 +39,13 @@ bool makeVariation(plovix::ManagerApp& app, plovix::UserInterface& ui, const std
   std::filesystem::copy_file(
       std::string(PLOVIX_SOURCE_DIR "/tests/corpus/") + kDescriptions[index % 4] + ".cnx", cnx,
       std::filesystem::copy_options::overwrite_existing);
-  app.run.description = std::make_unique<plovix::CnxDescription>(cnx);
-  if (!app.run.description->readDescription(ui)) return false;
+  plovix::CnxReader reader(ui, cnx);
+  if (!reader.read()) return false;
+  app.run.description = std::make_unique<plovix::CnxDescription>(reader.takeDescription());
   app.run.modulonName = "pvx_bench";
   app.run.outcome = plovix::RunOutcome{};
   plovix::generateVariationFiles(app, ui, base + kExtensions[index % 3], true, true);
-  app.run.description->deleteWorkFiles();
+  plovix::deleteCnxWorkFiles(cnx);
   app.run.description.reset();
   return app.run.outcome.exitStatus() == 0;
 }

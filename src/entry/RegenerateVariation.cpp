@@ -6,6 +6,8 @@
 #include "base/OutputKinds.h"
 #include "base/PathText.h"
 #include "base/TextFile.h"
+#include "cnx/CnxReader.h"
+#include "cnx/RetrievalInfo.h"
 #include "entry/GenerateVariation.h"
 
 namespace plovix {
@@ -23,9 +25,8 @@ std::string errorLogEntries(const std::string& logPath) {
 
 // The CNX file rebuilt from the design file, with the generation line a plug-in would write before it.
 bool prepareDescription(UserInterface& ui, const std::string& scratchDesign, std::string& cnxPath) {
-  CnxDescription extracted;
-  if (!extracted.extractRetrievalInfo(ui, scratchDesign) || extracted.cnxPath.empty()) return false;
-  cnxPath = extracted.cnxPath;
+  if (!extractRetrievalInfo(ui, scratchDesign)) return false;
+  cnxPath = pathWithoutExtension(scratchDesign) + ".cnx";
   std::string body;
   int errorNumber = 0;
   // Written anew rather than replaced: replacing a file just written makes some file systems flush it.
@@ -47,10 +48,10 @@ RegeneratedVariation regenerateVariation(ManagerApp& app, UserInterface& ui, con
 
   std::string cnxPath;
   if (!prepareDescription(ui, scratchDesign, cnxPath)) return result;
-  auto description = std::make_unique<CnxDescription>(cnxPath);
-  if (!description->readDescription(ui)) {
-    result.errorLog = errorLogEntries(description->errorLogPath);
-    description->deleteWorkFiles();
+  CnxReader reader(ui, cnxPath);
+  if (!reader.read()) {
+    result.errorLog = errorLogEntries(reader.errorLogPath());
+    deleteCnxWorkFiles(cnxPath);
     return result;
   }
 
@@ -60,9 +61,9 @@ RegeneratedVariation regenerateVariation(ManagerApp& app, UserInterface& ui, con
   run.outcome = RunOutcome{};
   run.catalog.reset();  // no catalog: no native-language copy
   run.modulonName = readModulonNameOfFile(designFile);
-  run.description = std::move(description);
+  run.description = std::make_unique<CnxDescription>(reader.takeDescription());
   generateVariationFiles(app, ui, scratchDesign, true, true);
-  run.description->deleteWorkFiles();
+  deleteCnxWorkFiles(cnxPath);
   run.description.reset();
   result.generated = run.outcome.generated && run.outcome.notWritten.empty();
   result.files = run.outcome.written;
