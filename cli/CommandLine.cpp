@@ -15,6 +15,7 @@
 #include "base/OutputKinds.h"
 #include "base/PathText.h"
 #include "base/Report.h"
+#include "hdl/HdlTextMode.h"
 
 namespace plovix {
 
@@ -60,7 +61,7 @@ std::string withLanguageExtension(const std::string& name, const std::string& la
 }
 
 struct Sources {
-  std::string ui, language, answer, project, userLibPath, libPath, topFile;
+  std::string ui, language, answer, hdlText, project, userLibPath, libPath, topFile;
   bool batch = false;
   std::vector<std::string> pluginArgs, files;
 };
@@ -123,6 +124,10 @@ ParseOutcome parseCommandLine(int argc, char** argv, CommandLine& out) {
       ->check(CLI::IsMember({"ok", "cancel"}));
   app.add_flag("--force", out.frontEnd.force,
                "Batch: let the answer replace a file that no wizard generated (otherwise Cancel)");
+  app.add_option("--hdl-text", in.hdlText,
+                 "The VHDL and Verilog text: standard (default) or valid, which writes valid HDL of the same "
+                 "meaning for the constructs plovix warns about")
+      ->check(CLI::IsMember({"standard", "valid"}));
   app.add_flag("--json", out.json,
                "Print one JSON object on stdout at the end (a batch run, --check, --describe-modulon)");
   app.add_option("--project", in.project, "Project root directory");
@@ -178,6 +183,7 @@ ParseOutcome parseCommandLine(int argc, char** argv, CommandLine& out) {
     out.hasDesignFile = true;
     out.designFile = withLanguageExtension(in.files[0], out.frontEnd.language);
   }
+  if (app.count("--hdl-text") > 0) setEnvironment(kHdlTextVariable, in.hdlText);
   if (app.count("--project") > 0) setEnvironment("PLOVIX_PROJECT_DIR", in.project);
   if (app.count("--user-lib-path") > 0) setEnvironment("PLOVIX_USER_LIB_PATH", in.userLibPath);
   if (app.count("--lib-path") > 0) setEnvironment("PLOVIX_LIB_PATH", in.libPath);

@@ -11,6 +11,7 @@
 #include "base/PathText.h"
 #include "base/TextHelpers.h"
 #include "entry/ConflictChecks.h"
+#include "hdl/HdlTextMode.h"
 #include "hdl/ThdlFileWriter.h"
 #include "hdl/VerilogFileWriter.h"
 #include "hdl/VhdlFileWriter.h"
@@ -62,8 +63,9 @@ void writeDesignSet(ManagerApp& app, UserInterface& ui, ThdlFileWriter& thdl, Ne
                     const std::string& basePath, bool writeSymbol) {
   ManagerRun& run = app.run;
   const CnxDescription& description = *run.description;
-  VhdlFileWriter vhdl(ui, basePath, run.modulonName, description, netlist.get());
-  VerilogFileWriter verilog(ui, basePath, run.modulonName, description, netlist.get());
+  const HdlTextMode mode = hdlTextModeFromEnvironment();
+  VhdlFileWriter vhdl(ui, basePath, run.modulonName, description, netlist.get(), mode);
+  VerilogFileWriter verilog(ui, basePath, run.modulonName, description, netlist.get(), mode);
   HdlFileWriter* const writers[] = {&thdl, &vhdl, &verilog};
   for (HdlFileWriter* writer : writers) writer->recordWritesIn(run.outcome);
   for (HdlFileWriter* writer : writers) {
@@ -108,10 +110,14 @@ void writeNativeCopy(ManagerApp& app, UserInterface& ui, NetlistOnce& netlist, c
   std::string text;
   switch (kind->language) {
     case OutputLanguage::kVhdl:
-      text = VhdlFileWriter(ui, basePath, run.modulonName, *run.description, netlist.get()).designText();
+      text = VhdlFileWriter(ui, basePath, run.modulonName, *run.description, netlist.get(),
+                            hdlTextModeFromEnvironment())
+                 .designText();
       break;
     case OutputLanguage::kVerilog:
-      text = VerilogFileWriter(ui, basePath, run.modulonName, *run.description, netlist.get()).designText();
+      text = VerilogFileWriter(ui, basePath, run.modulonName, *run.description, netlist.get(),
+                               hdlTextModeFromEnvironment())
+                 .designText();
       break;
     case OutputLanguage::kThdl:
       return;  // a copy is made in VHDL or Verilog HDL only

@@ -12,8 +12,11 @@
 namespace plovix {
 
 VerilogFileWriter::VerilogFileWriter(UserInterface& ui, std::string basePath, std::string signatureName,
-                                     const CnxDescription& description, const Netlist& netlist)
-    : HdlFileWriter(ui, std::move(basePath), std::move(signatureName), description), netlist_(netlist) {
+                                     const CnxDescription& description, const Netlist& netlist,
+                                     HdlTextMode mode)
+    : HdlFileWriter(ui, std::move(basePath), std::move(signatureName), description),
+      netlist_(netlist),
+      mode_(mode) {
   setOutputKind(OutputLanguage::kVerilog);
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "hdl/HdlFileWriter.h"
+#include "hdl/HdlTextMode.h"
 #include "hdl/Netlist.h"
 #include "hdl/VerilogNetlist.h"
 
@@ -12,8 +13,10 @@ namespace plovix {
 class VerilogFileWriter : public HdlFileWriter {
  public:
   // The writer reads `netlist` (built from `description` for `signatureName`), which must outlive it.
+  // `mode` chooses the standard text or the valid forms of the known constructs (docs/hdl-text.md).
   VerilogFileWriter(UserInterface& ui, std::string basePath, std::string signatureName,
-                    const CnxDescription& description, const Netlist& netlist);
+                    const CnxDescription& description, const Netlist& netlist,
+                    HdlTextMode mode = HdlTextMode::kStandard);
 
   std::string buildDesignText() const override;
   // Verilog has no companion file; the text is empty.
@@ -42,6 +45,7 @@ class VerilogFileWriter : public HdlFileWriter {
   void appendInstances(std::string& text, const VerilogNetlist& wires) const;
 
   const Netlist& netlist_;
+  HdlTextMode mode_;
 };
 
 // Text rules the Verilog sections share.

@@ -8,8 +8,10 @@
 namespace plovix {
 
 VhdlFileWriter::VhdlFileWriter(UserInterface& ui, std::string basePath, std::string signatureName,
-                               const CnxDescription& description, const Netlist& netlist)
-    : HdlFileWriter(ui, std::move(basePath), std::move(signatureName), description), netlist_(netlist) {
+                               const CnxDescription& description, const Netlist& netlist, HdlTextMode mode)
+    : HdlFileWriter(ui, std::move(basePath), std::move(signatureName), description),
+      netlist_(netlist),
+      mode_(mode) {
   setOutputKind(OutputLanguage::kVhdl);
 }
 

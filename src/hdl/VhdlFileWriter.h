@@ -4,6 +4,7 @@
 #include <string>
 
 #include "hdl/HdlFileWriter.h"
+#include "hdl/HdlTextMode.h"
 #include "hdl/Netlist.h"
 #include "hdl/VhdlNetlist.h"
 
@@ -12,8 +13,10 @@ namespace plovix {
 class VhdlFileWriter : public HdlFileWriter {
  public:
   // The writer reads `netlist` (built from `description` for `signatureName`), which must outlive it.
+  // `mode` chooses the standard text or the valid forms of the known constructs (docs/hdl-text.md).
   VhdlFileWriter(UserInterface& ui, std::string basePath, std::string signatureName,
-                 const CnxDescription& description, const Netlist& netlist);
+                 const CnxDescription& description, const Netlist& netlist,
+                 HdlTextMode mode = HdlTextMode::kStandard);
 
   // Header, legal notice, library clauses, entity and the architecture SYN.
   std::string buildDesignText() const override;
@@ -45,6 +48,7 @@ class VhdlFileWriter : public HdlFileWriter {
   void appendInstances(std::string& text, const VhdlNetlist& signals) const;
 
   const Netlist& netlist_;
+  HdlTextMode mode_;
 };
 
 }  // namespace plovix

@@ -13,6 +13,7 @@
 #include "base/QuestionTexts.h"
 #include "base/Report.h"
 #include "base/TextHelpers.h"
+#include "hdl/HdlTextMode.h"
 #include "ui/BatchFrontEnd.h"
 #include "ui/ConsoleFrontEnd.h"
 #include "ui/QtModule.h"
@@ -45,7 +46,8 @@ std::vector<SettingValues> frontEndSettings() {
   for (const OutputKind& kind : kOutputKinds) languages.emplace_back(kind.cliWord);
   return {{"PLOVIX_UI", {"batch", "console", "qt"}},
           {"PLOVIX_ANSWER", {"ok", "cancel"}},
-          {"PLOVIX_LANGUAGE", languages}};
+          {"PLOVIX_LANGUAGE", languages},
+          {kHdlTextVariable, {"standard", "valid"}}};
 }
 
 }  // namespace
