@@ -23,6 +23,7 @@ struct CnxConnectionEnd {
   bool peerIsSource = false;    // the peer drives the own end (the end was filed under the driven reference)
   bool peerInverted = false;    // the driving reference was written with "!"
   bool peerIsConstant = false;  // the driving reference is a constant
+  int32_t line = 0;             // the CONNECT: line's number in the description
 };
 
 // Every CONNECT: line files two ends: one under its driven reference describing the driver (peerIsSource),

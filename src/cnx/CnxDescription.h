@@ -65,6 +65,7 @@ struct CnxModule {
   Name moduleName;         // the library function instantiated
   Name instanceName;       // givenInstanceName when not empty, else mainModuleName when the line was read
   Name givenInstanceName;  // as written, possibly empty
+  int32_t line = 0;        // the line's number in the description
 };
 
 // A PARAMETER: line; CONSTANT: lines have the same fields. An empty target belongs to every instance.
@@ -73,6 +74,7 @@ struct CnxParameter {
   ValueType type = ValueType::kNumeric;
   Name value;
   Name target;
+  int32_t line = 0;  // the line's number in the description
 };
 using CnxConstant = CnxParameter;
 
@@ -90,6 +92,7 @@ struct CnxUsedPort {
   PortDirection direction = PortDirection::kInput;
   PortDefault defaultValue;
   Name tag;  // an optional further word; the automatic symbol shows it as the pin's alternative text
+  int32_t line = 0;  // the line's number in the description
 };
 
 inline constexpr std::string_view kVersionUnknown = "CNX_VERSION_UNKNOWN";

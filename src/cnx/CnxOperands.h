@@ -23,6 +23,9 @@ class CnxOperands {
   std::string_view token() const { return line_.token; }
   bool emptyQuoted() const { return line_.emptyQuoted; }
 
+  // The physical line number of the current line, as the error log names it.
+  int32_t lineNumber() const { return line_.counter - 1; }
+
   // Logs `message` against the current line; always false.
   bool fail(Msg message) { return log_.add(line_.counter, line_.rest, errorText(message)); }
 

@@ -80,6 +80,7 @@ bool readUsedPortStatement(CnxOperands& in, CnxBuild& out) {
   port.name = out.intern(splitCnxReference(reference).port);
   port.defaultValue = portDefaultOf(out.value(defaultValue));
   port.tag = out.value(tag);
+  port.line = in.lineNumber();
   CnxDescription& d = out.description;
   if (port.shape.isTwoDimensional()) d.uses2D = true;
   if (ofMainModule) {
@@ -121,8 +122,9 @@ bool readConnectStatement(CnxOperands& in, CnxBuild& out) {
   if (!constant) driverPort = out.intern(driver.port);
 
   CnxConnectionEnd toDriver{driverInstance, driverPort,      driverShape, drivenShape,
-                            true,           driver.inverted, constant};
-  CnxConnectionEnd toDriven{drivenInstance, drivenPort, drivenShape, driverShape, false, false, false};
+                            true,           driver.inverted, constant,    in.lineNumber()};
+  CnxConnectionEnd toDriven{drivenInstance, drivenPort, drivenShape, driverShape,
+                            false,          false,      false,       in.lineNumber()};
   out.connections.file(drivenInstance, drivenPort, toDriver);
   out.connections.file(driverInstance, driverPort, toDriven);
   return true;

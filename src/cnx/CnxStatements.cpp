@@ -21,7 +21,7 @@ bool readModule(CnxOperands& in, CnxBuild& out) {
   std::string_view moduleName;
   if (!in.identifier(moduleName)) return false;
   const std::string_view givenInstanceName = in.word();
-  CnxModule module{out.intern(moduleName), {}, out.intern(givenInstanceName)};
+  CnxModule module{out.intern(moduleName), {}, out.intern(givenInstanceName), in.lineNumber()};
   if (!in.endOfLine()) return false;
   CnxDescription& d = out.description;
   if (d.mainModuleName.empty()) d.mainModuleName = module.moduleName;
@@ -39,6 +39,7 @@ bool readNamedValue(CnxOperands& in, CnxBuild& out, std::vector<CnxParameter>& l
   record.value = out.value(in.word());
   if (!in.optionalIdentifier(target) || !in.endOfLine()) return false;
   record.target = out.intern(target);
+  record.line = in.lineNumber();
   list.push_back(record);
   return true;
 }

@@ -11,6 +11,7 @@
 #include "base/PathText.h"
 #include "base/TextHelpers.h"
 #include "entry/ConflictChecks.h"
+#include "hdl/HdlChecks.h"
 #include "hdl/HdlTextMode.h"
 #include "hdl/ThdlFileWriter.h"
 #include "hdl/VerilogFileWriter.h"
@@ -34,6 +35,20 @@ class NetlistOnce {
   const ManagerRun& run_;
   std::optional<Netlist> netlist_;
 };
+
+// Adds a warning for every construct of the description whose text in `language` the mode does not make
+// valid HDL of the same meaning; `path` names the file.
+void warnAboutConstructs(ManagerRun& run, NetlistOnce& netlist, OutputLanguage language,
+                         const std::string& path) {
+  if (language == OutputLanguage::kThdl) return;
+  const HdlTextMode mode = hdlTextModeFromEnvironment();
+  const std::string fileName = nameWithExtension(path);
+  for (const HdlFinding& finding :
+       findHdlConstructs(*run.description, netlist.get(), run.modulonName, language)) {
+    std::string warning = hdlFindingWarning(finding, fileName, mode);
+    if (!warning.empty()) run.outcome.warnings.push_back(std::move(warning));
+  }
+}
 
 // Asks the overwrite question when something would be overwritten; true to write.
 bool confirmOverwrite(UserInterface& ui, const ManagerApp& app, bool companions, bool symbol) {
@@ -91,6 +106,8 @@ void writeDesignSet(ManagerApp& app, UserInterface& ui, ThdlFileWriter& thdl, Ne
     }
   }
   writeLaterFiles(ui, app, true, writeSymbol, files);
+  if (const OutputKind* kind = outputKindOfExtension(run.extension))
+    warnAboutConstructs(run, netlist, kind->language, basePath + run.extension);
 }
 
 // A description that asks for the symbol alone.
@@ -124,6 +141,10 @@ void writeNativeCopy(ManagerApp& app, UserInterface& ui, NetlistOnce& netlist, c
   }
   const std::string path = basePath + "_enc" + std::string(kind->designExtension);
   run.encPath = path;
+  // The design file's own warnings already name the constructs of its language.
+  const OutputKind* designKind = outputKindOfExtension(run.extension);
+  if (designKind == nullptr || designKind->language != kind->language)
+    warnAboutConstructs(run, netlist, kind->language, path);
   const bool written = cpt_zpip_write_file(path.c_str(), text.c_str(), 0, 0) != 0;
   run.outcome.recordWrite(path, written, std::string(errorText(Msg::kNotWrittenByHost)));
 }

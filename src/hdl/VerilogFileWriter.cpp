@@ -21,7 +21,7 @@ VerilogFileWriter::VerilogFileWriter(UserInterface& ui, std::string basePath, st
 }
 
 std::string VerilogFileWriter::buildDesignText() const {
-  const VerilogNetlist wires = declareVerilogWires(netlist_, description_, signatureName_);
+  const VerilogNetlist wires = declareVerilogWires(netlist_, description_, signatureName_, mode_);
   return fillTemplate("%s\n%s\nmodule %s (\n%s%s%s\n%s\nendmodule\n\n",
                       {headerText(), legalNoticeText(), fileName_, portListText(), portDeclarationText(),
                        parameterBlockText(), [&](std::string& body) {
@@ -65,8 +65,9 @@ long long verilogWidthNumber(Bound width) {
   return width.isInteger() ? width.value() : 0;
 }
 
-std::string verilogConstantValue(Name drivingPort, Bound width) {
+std::string verilogConstantValue(Name drivingPort, Bound width, HdlTextMode mode) {
   const int bits = width.isZero() ? 1 : static_cast<int32_t>(verilogWidthNumber(width));
+  if (drivingPort == "VCC" && mode == HdlTextMode::kValid && bits > 1) return formatText("{%d{1'b1}}", bits);
   if (drivingPort == "VCC") return formatText("%d'H1", bits);
   if (drivingPort == "GND") return formatText("%d'H0", bits);
   // A width no device has (over a million bits) would only make a literal of millions of padding digits.

@@ -51,7 +51,8 @@ class VerilogFileWriter : public HdlFileWriter {
 // Text rules the Verilog sections share.
 const char* verilogDirectionWord(PortDirection direction);
 std::string verilogParameterValue(ValueType type, Name value);
-std::string verilogConstantValue(Name drivingPort, Bound width);
+// A constant of `width` bits; VCC driving a bus is n'H1 in the standard text and all ones in the valid one.
+std::string verilogConstantValue(Name drivingPort, Bound width, HdlTextMode mode = HdlTextMode::kStandard);
 // A width as an integer; a width that is not a decimal number counts as 0.
 long long verilogWidthNumber(Bound width);
 

@@ -79,7 +79,8 @@ std::string wireItems(const std::vector<const NetlistWire*>* list) {
   return items;
 }
 
-std::string defparamLines(const CnxDescription& description, Name instance) {
+// The parameters are passed on by name: lower-cased in the standard text, as declared in the valid one.
+std::string defparamLines(const CnxDescription& description, Name instance, HdlTextMode mode) {
   std::string lines;
   const char* separator = "";
   auto add = [&](Name name, const std::string& value) {
@@ -88,7 +89,8 @@ std::string defparamLines(const CnxDescription& description, Name instance) {
     separator = ",\n";
   };
   for (const CnxParameter& p : description.parameters) {
-    if (p.target == instance || p.target.empty()) add(p.name, toLowerText(p.name.view()));
+    if (p.target == instance || p.target.empty())
+      add(p.name, mode == HdlTextMode::kValid ? p.name.str() : toLowerText(p.name.view()));
   }
   for (const CnxConstant& k : description.constants) {
     if (k.target == instance || k.target.empty()) add(k.name, verilogParameterValue(k.type, k.value));
@@ -123,7 +125,7 @@ void VerilogFileWriter::appendInstances(std::string& text, const VerilogNetlist&
     const std::string ports = fromConnections + joint + fromWires;
     appendTemplate(text, "\n\t%s\t%s_component (\n%s);\n",
                    {toLowerText(module.moduleName.view()), instance.view(), ports});
-    const std::string lines = defparamLines(description_, instance);
+    const std::string lines = defparamLines(description_, instance, mode_);
     if (!lines.empty()) text += "\tdefparam\n" + lines + ";\n\n";
   }
 }

@@ -8,12 +8,13 @@
 #include <utility>
 
 #include "hdl/MainModuleWires.h"
+#include "hdl/NetlistKeys.h"
 #include "hdl/SeenItems.h"
 
 namespace plovix {
 
 VerilogNetlist declareVerilogWires(const Netlist& netlist, const CnxDescription& description,
-                                   std::string_view signatureName) {
+                                   std::string_view signatureName, HdlTextMode mode) {
   auto texts = std::make_unique<TextPool>();
   const MainModuleWidening widening(description, signatureName);
   const std::vector<NetlistWire>& wires = netlist.wires();
@@ -48,7 +49,9 @@ VerilogNetlist declareVerilogWires(const Netlist& netlist, const CnxDescription&
     }
     if (user != nullptr) {
       const std::string low = user->peer.bits.low.text();
-      user->peerBitsRange = texts->intern("[" + low + ":" + low + "]");
+      const bool readsSeveral = mode == HdlTextMode::kValid && user->peer.bits.present();
+      user->peerBitsRange =
+          texts->intern(readsSeveral ? rangeText(user->peer.bits) : "[" + low + ":" + low + "]");
     }
     (*newWires)[w] = wire;
   }

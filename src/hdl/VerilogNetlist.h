@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "hdl/HdlTextMode.h"
 #include "hdl/Netlist.h"
 
 namespace plovix {
@@ -13,13 +14,13 @@ struct VerilogNetlist {
   // Wires from a main-module port widened to the port (MainModuleWidening). Of several such wires with the
   // same driving port only the first is declared: each later one takes the name of the wire declared last,
   // and so does the first connection it fed. The first connection fed by any widened wire reads one bit of
-  // it: its bits range becomes "[low:low]".
+  // it: its bits range becomes "[low:low]"; in the valid text it reads the bits it names, "[high:low]".
   Netlist netlist;
   // Per wire: it gets a wire line.
   std::vector<bool> declared;
 };
 
 VerilogNetlist declareVerilogWires(const Netlist& netlist, const CnxDescription& description,
-                                   std::string_view signatureName);
+                                   std::string_view signatureName, HdlTextMode mode = HdlTextMode::kStandard);
 
 }  // namespace plovix

@@ -35,6 +35,16 @@ std::string groupRange(long long width, Bound low) {
   return "[" + upperBoundText(decimalText(width), lowText) + ":" + lowText + "]";
 }
 
+// The ranges of the variation port `name` as its declaration gives them; empty for a single bit or an
+// unknown port.
+std::string declaredRanges(const CnxDescription& description, Name name) {
+  for (const CnxUsedPort& port : description.outputPorts) {
+    if (port.name == name && port.shape.bits.present())
+      return rangeText(port.shape.rows) + rangeText(port.shape.bits);
+  }
+  return {};
+}
+
 // One group of consecutive connections that drive the same variation port.
 struct OutputGroup {
   Name port;
@@ -42,12 +52,15 @@ struct OutputGroup {
   std::string rightHand;
   long long rowsWidth = 0, bitsWidth = 0;
   int members = 0;
+  // The valid text declares the output with its port's own ranges; empty: from the group's widths.
+  std::string portRanges;
 
   std::string text() const {
     if (rightHand.empty()) return {};
     const std::string value = members == 1 ? rightHand + ";\n" : "{" + rightHand + "};\n";
-    return "\twire " + groupRange(rowsWidth, rowsLow) + groupRange(bitsWidth, bitsLow) + " " + port.str() +
-           " = " + value;
+    const std::string ranges =
+        portRanges.empty() ? groupRange(rowsWidth, rowsLow) + groupRange(bitsWidth, bitsLow) : portRanges;
+    return "\twire " + ranges + " " + port.str() + " = " + value;
   }
 };
 
@@ -69,8 +82,8 @@ void VerilogFileWriter::appendWires(std::string& text, const VerilogNetlist& dec
   for (size_t w = 0; w < netlist.wires().size(); ++w) {
     const NetlistWire& wire = netlist.wires()[w];
     if (wire.isConstant) {
-      text +=
-          toLowerText(wireLine(ranges, wire, " = " + verilogConstantValue(wire.drivingPort, wire.bitsWidth)));
+      text += toLowerText(
+          wireLine(ranges, wire, " = " + verilogConstantValue(wire.drivingPort, wire.bitsWidth, mode_)));
     } else if (declaration.declared[w]) {
       text += toLowerText(wireLine(ranges, wire, plainWireValue(wire)));
     }
@@ -89,6 +102,7 @@ void VerilogFileWriter::appendWires(std::string& text, const VerilogNetlist& dec
       group.port = c.ownPort;
       group.rowsLow = c.own.rows.low;
       group.bitsLow = c.own.bits.low;
+      if (mode_ == HdlTextMode::kValid) group.portRanges = declaredRanges(description_, c.ownPort);
       open = true;
     }
     group.rowsWidth = wrappingSum(group.rowsWidth, verilogWidthNumber(c.peer.rows.width));

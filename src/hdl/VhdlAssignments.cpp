@@ -100,7 +100,9 @@ std::string assignmentLine(std::string_view target, std::string_view value) {
 
 // Constant wires take their value; a vector constant goes through its bit-vector twin, and VCC is the
 // inverse of all zeros. Inverting wires take the inverse of their driving port.
-void appendWireAssignments(const std::vector<NetlistWire>& wires, AssignmentText& out) {
+// A number driving a single bit is written as it stands in the standard text, as its lowest bit in the valid
+// one.
+void appendWireAssignments(const std::vector<NetlistWire>& wires, AssignmentText& out, HdlTextMode mode) {
   for (const NetlistWire& wire : wires) {
     const Shape shape = shapeOf(wire);
     if (wire.isConstant && shape.isSingleBit()) {
@@ -109,6 +111,8 @@ void appendWireAssignments(const std::vector<NetlistWire>& wires, AssignmentText
         value = "'1'";
       } else if (value == "GND") {
         value = "'0'";
+      } else if (mode == HdlTextMode::kValid) {
+        value = vhdlBitOfNumber(wire.drivingPort);
       }
       out.append(assignmentLine(wire.name.view(), value));
     } else if (wire.isConstant) {
@@ -249,7 +253,7 @@ std::string VhdlFileWriter::concurrentAssignmentsText(const VhdlNetlist& signals
 void VhdlFileWriter::appendConcurrentAssignments(std::string& text, const VhdlNetlist& signals) const {
   const Netlist& netlist = signals.netlist;
   AssignmentText out(text);
-  appendWireAssignments(netlist.wires(), out);
+  appendWireAssignments(netlist.wires(), out, mode_);
   GroupedAssignments grouped(netlist.wires(), out);
   for (const NetlistConnection& connection : netlist.connections()) grouped.add(connection);
   grouped.finish();

@@ -15,7 +15,8 @@ namespace {
 
 // The generic lines of a component: constants (names in lower case) and parameters that belong to the
 // instance or to every instance.
-std::string componentGenericText(const CnxDescription& description, Name instance) {
+// The standard text types a parameter with its own name; the valid text with its value's type.
+std::string componentGenericText(const CnxDescription& description, Name instance, HdlTextMode mode) {
   std::string text;
   const char* prefix = "\tGENERIC (\n";
   for (const CnxConstant& constant : description.constants) {
@@ -26,7 +27,8 @@ std::string componentGenericText(const CnxDescription& description, Name instanc
   }
   for (const CnxParameter& parameter : description.parameters) {
     if (parameter.target != instance && !parameter.target.empty()) continue;
-    appendFormatted(text, "%s\t\t%s\t\t: %s", prefix, parameter.name.c_str(), parameter.name.c_str());
+    appendFormatted(text, "%s\t\t%s\t\t: %s", prefix, parameter.name.c_str(),
+                    mode == HdlTextMode::kValid ? vhdlGenericType(parameter) : parameter.name.c_str());
     prefix = ";\n";
   }
   if (!text.empty()) text += "\n\t);\n";
@@ -56,9 +58,9 @@ std::string VhdlFileWriter::componentDeclarationsText() const {
         separator = ";\n";
       }
     }
-    appendFormatted(text, "\n\n\tCOMPONENT %s\n%s\tPORT (\n%s\n\t);\n\tEND COMPONENT;\n\n",
-                    module.moduleName.c_str(),
-                    componentGenericText(description_, module.instanceName).c_str(), portLines.c_str());
+    appendFormatted(
+        text, "\n\n\tCOMPONENT %s\n%s\tPORT (\n%s\n\t);\n\tEND COMPONENT;\n\n", module.moduleName.c_str(),
+        componentGenericText(description_, module.instanceName, mode_).c_str(), portLines.c_str());
   }
   return text;
 }

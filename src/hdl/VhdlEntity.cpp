@@ -21,7 +21,7 @@ void VhdlFileWriter::appendPortList(std::string& text) const {
       text +=
           formatText("%s\t\t%s\t\t: %s %s%s", separator, port.name.c_str(), vhdlDirectionWord(port.direction),
                      types.get(keyOf(port.shape), [&port] { return vhdlTypeText(port.shape); }).c_str(),
-                     vhdlDefaultText(port).c_str());
+                     vhdlDefaultText(port, mode_).c_str());
       separator = ";\n";
     }
   }

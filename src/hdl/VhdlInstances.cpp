@@ -14,8 +14,10 @@ namespace plovix {
 namespace {
 
 // The constants that belong to the instance or to every instance; empty when there are no constants at all.
-std::string genericMapText(const CnxDescription& description, Name instance) {
-  if (description.constants.empty()) return {};
+// The valid text also passes the parameters on with their values, and leaves out a generic map without lines.
+std::string genericMapText(const CnxDescription& description, Name instance, HdlTextMode mode) {
+  const bool valid = mode == HdlTextMode::kValid;
+  if (description.constants.empty() && (!valid || description.parameters.empty())) return {};
   std::string lines;
   const char* prefix = "";
   for (const CnxConstant& constant : description.constants) {
@@ -24,6 +26,13 @@ std::string genericMapText(const CnxDescription& description, Name instance) {
                     vhdlGenericValue(constant).c_str());
     prefix = ",\n";
   }
+  for (const CnxParameter& parameter : description.parameters) {
+    if (!valid || (parameter.target != instance && !parameter.target.empty())) continue;
+    appendFormatted(lines, "%s\t\t%s => %s", prefix, parameter.name.c_str(),
+                    vhdlGenericValue(parameter).c_str());
+    prefix = ",\n";
+  }
+  if (valid && lines.empty()) return {};
   return formatText("\tGENERIC MAP (\n%s\n\t)", lines.c_str());
 }
 
@@ -122,7 +131,7 @@ void VhdlFileWriter::appendInstances(std::string& text, const VhdlNetlist& signa
     }
 
     text += fillTemplate("\t%s : %s\n%s\n%s\n\n",
-                         {label, module.moduleName.view(), genericMapText(description_, instance),
+                         {label, module.moduleName.view(), genericMapText(description_, instance, mode_),
                           fillTemplate("\tPORT MAP (\n%s\n\t);\n\n", {entries})});
   }
 }

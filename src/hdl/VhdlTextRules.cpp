@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "base/Format.h"
+#include "base/TextHelpers.h"
 
 namespace plovix {
 
@@ -49,7 +50,11 @@ std::string vhdlBitVectorTypeText(const Range& bits) {
   return formatText("BIT_VECTOR %s", vhdlRangeText(Shape{{}, bits}).c_str());
 }
 
-std::string vhdlDefaultText(const CnxUsedPort& port) {
+std::string vhdlBitOfNumber(Name number) {
+  return binaryLiteral(number.view(), 1) == "1" ? "'1'" : "'0'";
+}
+
+std::string vhdlDefaultText(const CnxUsedPort& port, HdlTextMode mode) {
   if (port.direction != PortDirection::kInput && port.direction != PortDirection::kBidir) return {};
   std::string value;
   switch (port.defaultValue.kind) {
@@ -62,6 +67,12 @@ std::string vhdlDefaultText(const CnxUsedPort& port) {
       value = "'1'";
       break;
     case DefaultKind::kOther:
+      if (mode == HdlTextMode::kValid && port.shape.isSingleBit())
+        return " := " + vhdlBitOfNumber(port.defaultValue.text);
+      if (mode == HdlTextMode::kValid && !port.shape.rows.present()) {
+        const int bits = static_cast<int>(std::clamp(vhdlIntegerOf(port.shape.bits.width), 0LL, 1LL << 20));
+        return " := \"" + binaryLiteral(port.defaultValue.text.view(), bits) + "\"";
+      }
       value = port.defaultValue.text.str();
       break;
   }

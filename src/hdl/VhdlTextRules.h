@@ -4,6 +4,7 @@
 #include <string>
 
 #include "cnx/CnxDescription.h"
+#include "hdl/HdlTextMode.h"
 
 namespace plovix {
 
@@ -20,8 +21,12 @@ std::string vhdlTypeText(const Shape& shape);
 // "BIT_VECTOR " and the range of `bits` alone.
 std::string vhdlBitVectorTypeText(const Range& bits);
 
-// The " := value" of an input or bidirectional port with a default; empty otherwise.
-std::string vhdlDefaultText(const CnxUsedPort& port);
+// The " := value" of an input or bidirectional port with a default; empty otherwise. A numeric default is
+// written as it stands in the standard text, as the bits of the number in the valid one.
+std::string vhdlDefaultText(const CnxUsedPort& port, HdlTextMode mode = HdlTextMode::kStandard);
+
+// A number's lowest bit as a VHDL bit literal, '0' or '1'.
+std::string vhdlBitOfNumber(Name number);
 
 // "NATURAL" for a NUMERIC constant, else "STRING".
 const char* vhdlGenericType(const CnxConstant& constant);

@@ -1,0 +1,254 @@
+// The HDL construct checks: each walks the description's lines (and where the text depends on it, the
+// netlist) and files one finding per construct and place.
+#include "hdl/HdlChecks.h"
+
+#include <algorithm>
+#include <cctype>
+#include <map>
+#include <set>
+#include <tuple>
+#include <vector>
+
+#include "hdl/VerilogNetlist.h"
+
+namespace plovix {
+
+namespace {
+
+// One CONNECT: line: the driven end's reference and the end filed under it (its peer is the driver).
+struct Connect {
+  Name instance;
+  Name port;
+  const CnxConnectionEnd* end;
+};
+
+// The CONNECT: lines in file order.
+std::vector<Connect> connectsOf(const CnxDescription& description) {
+  std::vector<Connect> connects;
+  description.connectionMap.forEachEnd([&](Name instance, Name port, const CnxConnectionEnd& end) {
+    if (end.peerIsSource) connects.push_back({instance, port, &end});
+  });
+  std::stable_sort(connects.begin(), connects.end(),
+                   [](const Connect& a, const Connect& b) { return a.end->line < b.end->line; });
+  return connects;
+}
+
+// A width as an integer, an absent range counting one bit; a width that is not a number counts 0.
+long long bitCount(const Range& range) {
+  if (!range.present()) return 1;
+  return range.width.isInteger() ? range.width.value() : 0;
+}
+
+// The key of a sub-module port in the checks' maps.
+std::string endKey(Name instance, Name port) {
+  return instance.str() + "." + port.str();
+}
+
+bool isNumberConstant(const CnxConnectionEnd& end) {
+  return end.peerIsConstant && end.peerPort != "VCC" && end.peerPort != "GND";
+}
+
+bool hasCapital(std::string_view name) {
+  return std::any_of(name.begin(), name.end(),
+                     [](char c) { return std::isupper(static_cast<unsigned char>(c)); });
+}
+
+class Findings {
+ public:
+  explicit Findings(OutputLanguage language) : language_(language) {}
+
+  void add(HdlConstruct construct, std::string_view port, std::string_view instance, int32_t line) {
+    HdlFinding finding{construct, language_, std::string(port), std::string(instance), line};
+    if (seen_.insert({construct, finding.port, finding.instance}).second) list_.push_back(std::move(finding));
+  }
+
+  std::vector<HdlFinding> take() {
+    std::stable_sort(list_.begin(), list_.end(), [](const HdlFinding& a, const HdlFinding& b) {
+      return std::tie(a.construct, a.line) < std::tie(b.construct, b.line);
+    });
+    return std::move(list_);
+  }
+
+ private:
+  OutputLanguage language_;
+  std::vector<HdlFinding> list_;
+  std::set<std::tuple<HdlConstruct, std::string, std::string>> seen_;
+};
+
+// The instance of `instance`'s module name, for the merged ports of the netlist.
+Name moduleOf(const CnxDescription& description, Name instance) {
+  for (const CnxModule& module : description.modules)
+    if (module.instanceName == instance) return module.moduleName;
+  return {};
+}
+
+const SubModulePort* subModulePort(const Netlist& netlist, Name module, Name port) {
+  for (const SubModulePort& candidate : netlist.subModulePorts())
+    if (candidate.moduleName == module && candidate.portName == port) return &candidate;
+  return nullptr;
+}
+
+bool declaredWithAt(const CnxDescription& description, Name instance, Name port) {
+  if (instance != description.mainModuleName) return false;
+  return std::any_of(description.mainModulePorts.begin(), description.mainModulePorts.end(),
+                     [port](const CnxUsedPort& declared) { return declared.name == port; });
+}
+
+// The checks of both languages: connections the text of neither expresses.
+void findSharedConstructs(const CnxDescription& description, const Netlist& netlist,
+                          const std::vector<Connect>& connects, Findings& out) {
+  // Per driving sub-module port, the ranges it is read in.
+  std::map<std::string, std::set<std::pair<uint64_t, uint64_t>>> readRanges;
+  for (const Connect& c : connects) {
+    const CnxConnectionEnd& end = *c.end;
+    if (!end.peerIsConstant && end.peer.isSingleBit() &&
+        (bitCount(end.own.bits) > 1 || end.own.rows.present()))
+      out.add(HdlConstruct::kOneBitDrivesBus, c.port.view(), c.instance.view(), end.line);
+    if (netlist.packsRows() && !c.instance.empty() && end.own.rows.present() && !end.peer.rows.present())
+      out.add(HdlConstruct::kTwoDimensionalRows, c.port.view(), c.instance.view(), end.line);
+    if (end.peerIsConstant || end.peerInstance.empty()) continue;
+    if (end.peerInverted)
+      out.add(HdlConstruct::kInvertedOutput, end.peerPort.view(), end.peerInstance.view(), end.line);
+    // A port declared whole with "@" is one signal, read in any slice.
+    if (declaredWithAt(description, end.peerInstance, end.peerPort)) continue;
+    auto& ranges = readRanges[endKey(end.peerInstance, end.peerPort)];
+    ranges.insert({end.peer.bits.low.raw(), end.peer.bits.width.raw()});
+    if (ranges.size() == 2)
+      out.add(HdlConstruct::kPinReadTwice, end.peerPort.view(), end.peerInstance.view(), end.line);
+  }
+}
+
+void findVhdlConstructs(const CnxDescription& description, const Netlist& netlist,
+                        const std::vector<Connect>& connects, Findings& out) {
+  if (!description.constants.empty()) {
+    for (const CnxModule& module : description.modules) {
+      const bool hasOwn = std::any_of(
+          description.constants.begin(), description.constants.end(),
+          [&](const CnxConstant& c) { return c.target.empty() || c.target == module.instanceName; });
+      if (!hasOwn) out.add(HdlConstruct::kEmptyGenericMap, {}, module.instanceName.view(), module.line);
+    }
+  }
+
+  auto reserved = [&](Name name, std::string_view instance, int32_t line) {
+    if (isVhdlReservedWord(name.view())) out.add(HdlConstruct::kReservedWord, name.view(), instance, line);
+  };
+  for (const CnxModule& module : description.modules) reserved(module.moduleName, {}, module.line);
+  for (const auto* list : {&description.constants, &description.parameters})
+    for (const CnxParameter& value : *list) reserved(value.name, {}, value.line);
+  for (const auto* ports : {&description.inputPorts, &description.outputPorts})
+    for (const CnxUsedPort& port : *ports) reserved(port.name, {}, port.line);
+  for (const Connect& c : connects) {
+    if (!c.instance.empty()) reserved(c.port, c.instance.view(), c.end->line);
+    if (!c.end->peerIsConstant && !c.end->peerInstance.empty())
+      reserved(c.end->peerPort, c.end->peerInstance.view(), c.end->line);
+  }
+
+  if (!description.modules.empty()) {
+    for (const CnxParameter& parameter : description.parameters)
+      out.add(HdlConstruct::kPassedParameter, parameter.name.view(), {}, parameter.line);
+  }
+
+  for (const auto* ports : {&description.inputPorts, &description.outputPorts}) {
+    for (const CnxUsedPort& port : *ports) {
+      if (port.direction != PortDirection::kOutput && port.defaultValue.kind == DefaultKind::kOther)
+        out.add(HdlConstruct::kNumericDefault, port.name.view(), {}, port.line);
+    }
+  }
+
+  // Per driven sub-module port, the feeds and the bits they add up to.
+  std::map<std::string, std::pair<long long, int>> feeds;
+  for (const Connect& c : connects) {
+    const CnxConnectionEnd& end = *c.end;
+    if (isNumberConstant(end) && end.own.isSingleBit())
+      out.add(HdlConstruct::kNumberDrivesBit, c.port.view(), c.instance.view(), end.line);
+    // Rows of a two-dimensional port and ports declared whole with "@" are joined into one signal.
+    if (c.instance.empty() || end.own.rows.present() || declaredWithAt(description, c.instance, c.port))
+      continue;
+    if (end.peerIsConstant && end.own.bits.present() && end.own.bits.low.value() != 0)
+      out.add(HdlConstruct::kConstantSlice, c.port.view(), c.instance.view(), end.line);
+    if (!end.peerIsConstant && end.own.bits.present() && !end.peer.bits.present() &&
+        !end.peer.rows.present() && bitCount(end.own.bits) == 1)
+      out.add(HdlConstruct::kSlicedFeeds, c.port.view(), c.instance.view(), end.line);
+    auto& [bits, count] = feeds[endKey(c.instance, c.port)];
+    bits += bitCount(end.own.bits);
+    ++count;
+    if (count < 2) continue;
+    const SubModulePort* merged = subModulePort(netlist, moduleOf(description, c.instance), c.port);
+    if (merged == nullptr || bitCount(merged->shape.bits) < bits)
+      out.add(HdlConstruct::kSlicedFeeds, c.port.view(), c.instance.view(), end.line);
+  }
+}
+
+void findVerilogConstructs(const CnxDescription& description, const Netlist& netlist,
+                           std::string_view signatureName, const std::vector<Connect>& connects,
+                           Findings& out) {
+  if (!description.modules.empty()) {
+    for (const CnxParameter& parameter : description.parameters)
+      if (hasCapital(parameter.name.view()))
+        out.add(HdlConstruct::kUpperCaseParameter, parameter.name.view(), {}, parameter.line);
+  }
+
+  for (const Connect& c : connects) {
+    const CnxConnectionEnd& end = *c.end;
+    if (end.peerIsConstant && end.peerPort == "VCC" && (bitCount(end.own.bits) > 1 || end.own.rows.present()))
+      out.add(HdlConstruct::kVccDrivesBus, c.port.view(), c.instance.view(), end.line);
+  }
+
+  // An output is declared from the low index of its first connection and the widths of its group.
+  auto portLine = [&](Name name) -> const CnxUsedPort* {
+    for (const CnxUsedPort& port : description.outputPorts)
+      if (port.name == name) return &port;
+    return nullptr;
+  };
+  const std::vector<NetlistConnection>& connections = netlist.connections();
+  for (size_t i = 0; i < connections.size();) {
+    const NetlistConnection& first = connections[i];
+    if (!first.ownInstance.empty()) {
+      ++i;
+      continue;
+    }
+    long long width = 0;
+    size_t j = i;
+    for (; j < connections.size() && connections[j].ownInstance.empty() &&
+           connections[j].ownPort == first.ownPort;
+         ++j)
+      width += connections[j].peer.bits.present() ? bitCount(connections[j].peer.bits) : 0;
+    const CnxUsedPort* port = portLine(first.ownPort);
+    if (port != nullptr && port->shape.bits.present() &&
+        (first.own.bits.low != port->shape.bits.low || width != bitCount(port->shape.bits)))
+      out.add(HdlConstruct::kOutputRange, first.ownPort.view(), {}, port->line);
+    i = j;
+  }
+
+  // A main-module wire narrowed to one bit where its user reads several.
+  const VerilogNetlist declared =
+      declareVerilogWires(netlist, description, signatureName, HdlTextMode::kStandard);
+  const std::vector<NetlistConnection>& narrowed = declared.netlist.connections();
+  for (size_t i = 0; i < narrowed.size() && i < connections.size(); ++i) {
+    const NetlistConnection& c = narrowed[i];
+    if (c.peerBitsRange == connections[i].peerBitsRange || bitCount(c.peer.bits) <= 1) continue;
+    int32_t line = 0;
+    for (const CnxConnectionEnd& end : description.connectionMap.find(c.ownInstance.view(), c.ownPort.view()))
+      if (end.peerIsSource) line = end.line;
+    out.add(HdlConstruct::kMainPortNarrowed, c.ownPort.view(), c.ownInstance.view(), line);
+  }
+}
+
+}  // namespace
+
+std::vector<HdlFinding> findHdlConstructs(const CnxDescription& description, const Netlist& netlist,
+                                          std::string_view signatureName, OutputLanguage language) {
+  Findings out(language);
+  if (language == OutputLanguage::kThdl) return out.take();
+  const std::vector<Connect> connects = connectsOf(description);
+  const bool vhdl = language == OutputLanguage::kVhdl;
+  if (vhdl) {
+    findVhdlConstructs(description, netlist, connects, out);
+  } else {
+    findVerilogConstructs(description, netlist, signatureName, connects, out);
+  }
+  findSharedConstructs(description, netlist, connects, out);
+  return out.take();
+}
+
+}  // namespace plovix
