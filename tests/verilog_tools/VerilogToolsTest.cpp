@@ -3,16 +3,18 @@
 #include <gtest/gtest.h>
 
 #include <sys/wait.h>
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <map>
 #include <string>
 #include <vector>
 
-#include "../corpus/CorpusCase.h"
+#include "../corpus/LimitCases.h"
 #include "RecordingInterface.h"
 #include "TempDir.h"
 #include "base/TextHelpers.h"
+#include "hdl/HdlChecks.h"
 #include "hdl/Netlist.h"
 #include "hdl/NetlistKeys.h"
 #include "hdl/VerilogFileWriter.h"
@@ -81,7 +83,9 @@ std::string templateBench(const CnxDescription& description, const std::string& 
   return text + templateText + "endmodule\n";
 }
 
-class VerilogTools : public ::testing::TestWithParam<const char*> {
+// Skips a test where one of the tools is missing.
+template <class Param>
+class WithVerilogTools : public ::testing::TestWithParam<Param> {
  protected:
   void SetUp() override {
     for (const char* tool : {"iverilog", "verilator", "yosys"}) {
@@ -89,6 +93,7 @@ class VerilogTools : public ::testing::TestWithParam<const char*> {
     }
   }
 };
+using VerilogTools = WithVerilogTools<const char*>;
 
 TEST_P(VerilogTools, GeneratedFilesAreReadByEveryTool) {
   const std::string name = GetParam();
@@ -122,6 +127,49 @@ TEST_P(VerilogTools, GeneratedFilesAreReadByEveryTool) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Corpus, VerilogTools, ::testing::ValuesIn(testing::kCorpusCases));
+
+// The valid text of every case whose Verilog holds constructs, all of which the valid mode rewrites, is
+// read by every tool, the black box with the template too.
+std::vector<std::string> casesMadeValid() {
+  std::vector<std::string> names;
+  for (const std::string& name : testing::corpusAndLimitCases()) {
+    TempDir work;
+    RecordingInterface ui;
+    CnxDescription description;
+    if (!testing::readCnxText(name, testing::caseText(name), work, ui, description)) continue;
+    const auto findings = findHdlConstructs(description, buildNetlist(description, testing::kCorpusSignature),
+                                            testing::kCorpusSignature, OutputLanguage::kVerilog);
+    const bool allRewritten = std::all_of(findings.begin(), findings.end(), [](const HdlFinding& f) {
+      return hdlRemedy(f.construct, OutputLanguage::kVerilog) == HdlRemedy::kValidText;
+    });
+    if (!findings.empty() && allRewritten) names.push_back(name);
+  }
+  return names;
+}
+
+using VerilogValidText = WithVerilogTools<std::string>;
+
+TEST_P(VerilogValidText, IsReadByEveryTool) {
+  const std::string name = GetParam();
+  TempDir work;
+  RecordingInterface ui;
+  CnxDescription description;
+  ASSERT_TRUE(testing::readCnxText(name, testing::caseText(name), work, ui, description));
+  const Netlist netlist = buildNetlist(description, testing::kCorpusSignature);
+  const VerilogFileWriter writer(ui, work.path(name), testing::kCorpusSignature, description, netlist,
+                                 HdlTextMode::kValid);
+  ASSERT_TRUE(writer.writeDesignFile() && writer.writeBlackBoxFile() && writer.writeInstanceFile());
+  work.write("bench.v", templateBench(description, work.read(name + "_inst.v")));
+  for (const auto& [tool, command] : toolCommands(name, name + ".v" + stubFiles())) {
+    const ToolRun run = runIn(work, command);
+    EXPECT_EQ(run.exitCode, 0) << tool << " rejects the valid text of " << name << ":\n" << run.output;
+  }
+  for (const auto& [tool, command] : toolCommands("bench", "bench.v " + name + "_bb.v")) {
+    EXPECT_EQ(runIn(work, command).exitCode, 0) << tool << " rejects the valid black box of " << name;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, VerilogValidText, ::testing::ValuesIn(casesMadeValid()));
 
 // Icarus runs the variation with the stub modules and a bench (data/<case>_sim.v) that checks what arrives at
 // the outputs: the counter's wiring, the bit order of joined feeds, the constants' values.

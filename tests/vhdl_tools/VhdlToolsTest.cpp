@@ -4,6 +4,7 @@
 
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -11,7 +12,9 @@
 #include <string>
 #include <utility>
 
+#include "../corpus/LimitCases.h"
 #include "../vhdl/VhdlCases.h"
+#include "hdl/HdlChecks.h"
 #include "hdl/VhdlTextRules.h"
 
 namespace plovix {
@@ -132,6 +135,50 @@ TEST_P(VhdlTools, GeneratedFilesAreAcceptedByGhdl) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, VhdlTools, ::testing::ValuesIn(testing::allVhdlCases()));
+
+// The corpus and limits cases whose VHDL holds constructs, all of which the valid mode rewrites.
+std::vector<std::string> casesMadeValid() {
+  std::vector<std::string> names;
+  for (const std::string& name : testing::corpusAndLimitCases()) {
+    TempDir work;
+    testing::RecordingInterface ui;
+    CnxDescription description;
+    if (!testing::readCnxText(name, testing::caseText(name), work, ui, description)) continue;
+    const auto findings = findHdlConstructs(description, buildNetlist(description, testing::kCorpusSignature),
+                                            testing::kCorpusSignature, OutputLanguage::kVhdl);
+    const bool allRewritten = std::all_of(findings.begin(), findings.end(), [](const HdlFinding& f) {
+      return hdlRemedy(f.construct, OutputLanguage::kVhdl) == HdlRemedy::kValidText;
+    });
+    if (!findings.empty() && allRewritten) names.push_back(name);
+  }
+  return names;
+}
+
+class VhdlValidText : public VhdlTools {};
+
+// Their valid text passes every step: design, elaboration, component declaration, template.
+TEST_P(VhdlValidText, IsAcceptedByGhdl) {
+  const std::string name = GetParam();
+  TempDir dir;
+  testing::RecordingInterface ui;
+  CnxDescription description;
+  ASSERT_TRUE(testing::readCnxText(name, testing::caseText(name), dir, ui, description));
+  const Netlist netlist = buildNetlist(description, testing::kCorpusSignature);
+  const VhdlFileWriter writer(ui, dir.path(name), testing::kCorpusSignature, description, netlist,
+                              HdlTextMode::kValid);
+  ASSERT_TRUE(writer.writeDesignFile());
+  dir.write("companion.vhd", companionPackage(writer, name));
+  dir.write("bench.vhd", templateBench(writer, description));
+  const std::string analyse = kGhdl + " -a" + kStandard + " ";
+  const std::string elaborate = kGhdl + " -e" + kStandard + " ";
+  for (const std::string& command : {stubCommands(description), analyse + name + ".vhd", elaborate + name,
+                                     analyse + "companion.vhd", analyse + "bench.vhd", elaborate + "bench"}) {
+    const ToolRun run = runIn(dir, command);
+    EXPECT_EQ(run.exitCode, 0) << command << ":\n" << run.output;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, VhdlValidText, ::testing::ValuesIn(casesMadeValid()));
 
 }  // namespace
 }  // namespace plovix
