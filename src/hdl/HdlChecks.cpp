@@ -88,6 +88,13 @@ const SubModulePort* subModulePort(const Netlist& netlist, Name module, Name por
   return nullptr;
 }
 
+// A parameter goes to the instance it targets, or without a target to every instance.
+bool passedOn(const CnxDescription& description, const CnxParameter& parameter) {
+  return std::any_of(description.modules.begin(), description.modules.end(), [&](const CnxModule& module) {
+    return parameter.target.empty() || parameter.target == module.instanceName;
+  });
+}
+
 bool declaredWithAt(const CnxDescription& description, Name instance, Name port) {
   if (instance != description.mainModuleName) return false;
   return std::any_of(description.mainModulePorts.begin(), description.mainModulePorts.end(),
@@ -143,8 +150,8 @@ void findVhdlConstructs(const CnxDescription& description, const Netlist& netlis
       reserved(c.end->peerPort, c.end->peerInstance.view(), c.end->line);
   }
 
-  if (!description.modules.empty()) {
-    for (const CnxParameter& parameter : description.parameters)
+  for (const CnxParameter& parameter : description.parameters) {
+    if (passedOn(description, parameter))
       out.add(HdlConstruct::kPassedParameter, parameter.name.view(), {}, parameter.line);
   }
 
@@ -182,10 +189,9 @@ void findVhdlConstructs(const CnxDescription& description, const Netlist& netlis
 void findVerilogConstructs(const CnxDescription& description, const Netlist& netlist,
                            std::string_view signatureName, const std::vector<Connect>& connects,
                            Findings& out) {
-  if (!description.modules.empty()) {
-    for (const CnxParameter& parameter : description.parameters)
-      if (hasCapital(parameter.name.view()))
-        out.add(HdlConstruct::kUpperCaseParameter, parameter.name.view(), {}, parameter.line);
+  for (const CnxParameter& parameter : description.parameters) {
+    if (passedOn(description, parameter) && hasCapital(parameter.name.view()))
+      out.add(HdlConstruct::kUpperCaseParameter, parameter.name.view(), {}, parameter.line);
   }
 
   for (const Connect& c : connects) {
