@@ -33,11 +33,11 @@ constexpr std::array<ConstructRow, 15> kConstructs = {{
     {HdlConstruct::kNumericDefault, "numeric-default", Msg::kHdlNumericDefault, kValid, kNothing},
     {HdlConstruct::kNumberDrivesBit, "number-drives-bit", Msg::kHdlNumberDrivesBit, kValid, kNothing},
     {HdlConstruct::kTwoDimensionalRows, "two-dimensional-rows", Msg::kHdlTwoDimensionalRows, kOther, kOther},
-    {HdlConstruct::kInvertedOutput, "inverted-output", Msg::kHdlInvertedOutput, kNotYet, kNotYet},
+    {HdlConstruct::kInvertedOutput, "inverted-output", Msg::kHdlInvertedOutput, kValid, kValid},
     {HdlConstruct::kOutputRange, "output-range", Msg::kHdlOutputRange, kNothing, kValid},
     {HdlConstruct::kMainPortNarrowed, "main-port-narrowed", Msg::kHdlMainPortNarrowed, kNothing, kValid},
     {HdlConstruct::kVccDrivesBus, "vcc-drives-bus", Msg::kHdlVccDrivesBus, kNothing, kValid},
-    {HdlConstruct::kPinReadTwice, "pin-read-twice", Msg::kHdlPinReadTwice, kNotYet, kNotYet},
+    {HdlConstruct::kPinReadTwice, "pin-read-twice", Msg::kHdlPinReadTwice, kValid, kValid},
 }};
 
 constexpr bool rowsInOrder() {

@@ -8,6 +8,7 @@
 #include "base/Format.h"
 #include "base/OutputKinds.h"
 #include "base/TextHelpers.h"
+#include "hdl/ValidWiring.h"
 
 namespace plovix {
 
@@ -15,8 +16,9 @@ VerilogFileWriter::VerilogFileWriter(UserInterface& ui, std::string basePath, st
                                      const CnxDescription& description, const Netlist& netlist,
                                      HdlTextMode mode)
     : HdlFileWriter(ui, std::move(basePath), std::move(signatureName), description),
-      netlist_(netlist),
-      mode_(mode) {
+      mode_(mode),
+      validNetlist_(mode == HdlTextMode::kValid ? validWiring(netlist, description) : nullptr),
+      netlist_(validNetlist_ ? *validNetlist_ : netlist) {
   setOutputKind(OutputLanguage::kVerilog);
 }
 

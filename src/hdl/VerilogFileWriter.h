@@ -1,6 +1,7 @@
 // The Verilog writer: design text, black box and instantiation template of a variation.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "hdl/HdlFileWriter.h"
@@ -44,8 +45,10 @@ class VerilogFileWriter : public HdlFileWriter {
   void appendWires(std::string& text, const VerilogNetlist& wires) const;
   void appendInstances(std::string& text, const VerilogNetlist& wires) const;
 
-  const Netlist& netlist_;
   HdlTextMode mode_;
+  // The valid text's rewired netlist (validWiring), where it differs from the one given.
+  std::unique_ptr<Netlist> validNetlist_;
+  const Netlist& netlist_;
 };
 
 // Text rules the Verilog sections share.

@@ -4,14 +4,16 @@
 #include <utility>
 
 #include "base/Format.h"
+#include "hdl/ValidWiring.h"
 
 namespace plovix {
 
 VhdlFileWriter::VhdlFileWriter(UserInterface& ui, std::string basePath, std::string signatureName,
                                const CnxDescription& description, const Netlist& netlist, HdlTextMode mode)
     : HdlFileWriter(ui, std::move(basePath), std::move(signatureName), description),
-      netlist_(netlist),
-      mode_(mode) {
+      mode_(mode),
+      validNetlist_(mode == HdlTextMode::kValid ? validWiring(netlist, description) : nullptr),
+      netlist_(validNetlist_ ? *validNetlist_ : netlist) {
   setOutputKind(OutputLanguage::kVhdl);
 }
 

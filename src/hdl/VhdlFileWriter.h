@@ -1,6 +1,7 @@
 // The VHDL writer: design text (entity and structural architecture), component declaration and template.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "hdl/HdlFileWriter.h"
@@ -47,8 +48,10 @@ class VhdlFileWriter : public HdlFileWriter {
   void appendConcurrentAssignments(std::string& text, const VhdlNetlist& signals) const;
   void appendInstances(std::string& text, const VhdlNetlist& signals) const;
 
-  const Netlist& netlist_;
   HdlTextMode mode_;
+  // The valid text's rewired netlist (validWiring), where it differs from the one given.
+  std::unique_ptr<Netlist> validNetlist_;
+  const Netlist& netlist_;
 };
 
 }  // namespace plovix

@@ -1,0 +1,138 @@
+// Rewiring the sub-module outputs for the valid text: one wire per pin for outputs read in several slices,
+// a plain wire under every inverted output.
+#include "hdl/ValidWiring.h"
+
+#include <algorithm>
+#include <string>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "base/Format.h"
+#include "hdl/NetlistKeys.h"
+
+namespace plovix {
+
+namespace {
+
+// The sub-module port a wire's source names ("inst_component.port"), empty for a variation port, a constant
+// or a port of the main module declared with "@" (its wires are widened to the whole port anyway).
+std::string_view pinOf(const NetlistWire& wire, const CnxDescription& description) {
+  if (wire.isConstant) return {};
+  const std::string_view source = wire.sourceText.view();
+  const size_t dot = source.find("_component.");
+  if (dot == std::string_view::npos) return {};
+  const std::string_view pin = source.substr(0, source.find('['));
+  const std::string_view instance = source.substr(0, dot);
+  const std::string_view port = pin.substr(dot + 11);
+  if (instance == description.mainModuleName.view()) {
+    for (const CnxUsedPort& declared : description.mainModulePorts)
+      if (declared.name == port) return {};
+  }
+  return pin;
+}
+
+long long integerOf(Bound bound) {
+  return bound.isInteger() ? bound.value() : 0;
+}
+
+// Merges the wires of a pin read in several slices into its first wire; true when some pin was.
+bool joinSlicedPins(Netlist::Parts& parts, const CnxDescription& description, TextPool& texts) {
+  std::unordered_map<std::string_view, std::vector<size_t>> wiresOfPin;
+  for (size_t w = 0; w < parts.wires.size(); ++w) {
+    if (parts.wires[w].isInverted) continue;
+    const std::string_view pin = pinOf(parts.wires[w], description);
+    if (!pin.empty()) wiresOfPin[pin].push_back(w);
+  }
+  std::unordered_map<Name, Name> joinedInto;  // a wire of a joined pin -> the pin's wire
+  std::vector<bool> dropped(parts.wires.size(), false);
+  for (const auto& [pin, list] : wiresOfPin) {
+    if (list.size() < 2) continue;
+    NetlistWire& kept = parts.wires[list.front()];
+    for (size_t w : list) {
+      joinedInto.emplace(parts.wires[w].name, kept.name);
+      if (w != list.front()) dropped[w] = true;
+    }
+  }
+  if (joinedInto.empty()) return false;
+
+  // Each reader reads its own slice of the pin's wire, which is as wide as the highest bit read.
+  std::unordered_map<Name, long long> widthOf;
+  for (NetlistConnection& c : parts.connections) {
+    const auto joined = joinedInto.find(c.peerName);
+    if (joined == joinedInto.end()) continue;
+    c.peerName = joined->second;
+    c.peerBitsRange = texts.intern(rangeText(c.peer.bits));
+    const long long top =
+        c.peer.bits.present() ? integerOf(c.peer.bits.low) + integerOf(c.peer.bits.width) : 1;
+    long long& width = widthOf[joined->second];
+    width = std::max(width, top);
+  }
+  std::vector<NetlistWire> wires;
+  for (size_t w = 0; w < parts.wires.size(); ++w) {
+    if (dropped[w]) continue;
+    NetlistWire wire = parts.wires[w];
+    if (const auto width = widthOf.find(wire.name); width != widthOf.end()) {
+      wire.bitsWidth = Bound::ofNumber(width->second, texts);
+      // The component declares the pin as wide as its wire.
+      const std::string_view pin = pinOf(wire, description);
+      const std::string_view port = pin.substr(pin.find("_component.") + 11);
+      const std::string_view instance = pin.substr(0, pin.find("_component."));
+      for (const CnxModule& module : description.modules) {
+        if (module.instanceName != instance) continue;
+        for (SubModulePort& merged : parts.subModulePorts) {
+          if (merged.moduleName == module.moduleName && merged.portName == port &&
+              integerOf(merged.shape.bits.width) < width->second)
+            merged.shape.bits = Range{wire.bitsWidth, Bound()};
+        }
+      }
+    }
+    wires.push_back(wire);
+  }
+  parts.wires = std::move(wires);
+  return true;
+}
+
+// Gives every inverted sub-module output a plain wire on its pin to invert; true when some output needed one.
+bool wireInvertedPins(Netlist::Parts& parts, const CnxDescription& description, TextPool& texts) {
+  bool changed = false;
+  std::vector<NetlistWire> wires;
+  for (const NetlistWire& wire : parts.wires) {
+    if (!wire.isInverted || pinOf(wire, description).empty()) {
+      wires.push_back(wire);
+      continue;
+    }
+    const auto plain = std::find_if(parts.wires.begin(), parts.wires.end(), [&](const NetlistWire& other) {
+      return !other.isInverted && !other.isConstant && other.sourceText == wire.sourceText;
+    });
+    NetlistWire inverted = wire;
+    if (plain != parts.wires.end()) {
+      inverted.drivingPort = plain->name;
+    } else {
+      NetlistWire pinWire = wire;
+      pinWire.name = texts.intern(formatText("sub_wire%d", parts.nextWireNumber++));
+      pinWire.sourceKey = wire.sourceText;
+      pinWire.isInverted = false;
+      pinWire.useCount = 0;
+      inverted.drivingPort = pinWire.name;
+      wires.push_back(pinWire);
+    }
+    wires.push_back(inverted);
+    changed = true;
+  }
+  if (changed) parts.wires = std::move(wires);
+  return changed;
+}
+
+}  // namespace
+
+std::unique_ptr<Netlist> validWiring(const Netlist& netlist, const CnxDescription& description) {
+  auto texts = std::make_unique<TextPool>();
+  Netlist::Parts parts = netlist.parts();
+  const bool joined = joinSlicedPins(parts, description, *texts);
+  const bool inverted = wireInvertedPins(parts, description, *texts);
+  if (!joined && !inverted) return nullptr;
+  return std::make_unique<Netlist>(std::move(parts), std::move(texts));
+}
+
+}  // namespace plovix

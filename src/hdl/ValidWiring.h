@@ -1,0 +1,17 @@
+// The netlist rewired for the valid text: sub-module outputs that the standard text leaves unconnected or
+// connects twice get one wire on their pin.
+#pragma once
+
+#include <memory>
+
+#include "hdl/Netlist.h"
+
+namespace plovix {
+
+// A copy of `netlist` (built from `description`) in which every inverted sub-module output inverts a wire
+// connected to its pin, and a sub-module output read in several slices drives one wire as wide as the bits
+// read, of which each reader reads its slice. Null when nothing changes. The copy borrows the names of
+// `netlist`, which must outlive it.
+std::unique_ptr<Netlist> validWiring(const Netlist& netlist, const CnxDescription& description);
+
+}  // namespace plovix
