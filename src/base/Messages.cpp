@@ -207,8 +207,6 @@ constexpr Row kTable[] = {
     {Msg::kVersionWithRevision, "plovix %s (source revision %s)"},
     {Msg::kHdlWarningValid,
      "%s: %s at %s (line %s of the description); --hdl-text valid writes valid HDL of the same meaning"},
-    {Msg::kHdlWarningNotYet,
-     "%s: %s at %s (line %s of the description); --hdl-text valid does not cover it yet"},
     {Msg::kHdlWarningOtherLanguage,
      "%s: %s at %s (line %s of the description); no valid text in this language can express it, also not "
      "with --hdl-text valid: write the variation in %s"},

@@ -171,7 +171,6 @@ enum class Msg : int {
   kVersionWithRevision,
   // Warnings of the HDL construct checks: the four forms, the places, the constructs, the reasons.
   kHdlWarningValid,
-  kHdlWarningNotYet,
   kHdlWarningOtherLanguage,
   kHdlWarningNothing,
   kHdlWherePort,

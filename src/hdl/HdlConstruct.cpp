@@ -16,7 +16,6 @@ struct ConstructRow {
 };
 
 constexpr HdlRemedy kValid = HdlRemedy::kValidText;
-constexpr HdlRemedy kNotYet = HdlRemedy::kNotCoveredYet;
 constexpr HdlRemedy kOther = HdlRemedy::kOtherLanguage;
 constexpr HdlRemedy kNothing = HdlRemedy::kNothing;
 
@@ -27,8 +26,8 @@ constexpr std::array<ConstructRow, 15> kConstructs = {{
     {HdlConstruct::kPassedParameter, "passed-parameter", Msg::kHdlPassedParameter, kValid, kNothing},
     {HdlConstruct::kUpperCaseParameter, "upper-case-parameter", Msg::kHdlUpperCaseParameter, kNothing,
      kValid},
-    {HdlConstruct::kSlicedFeeds, "sliced-feeds", Msg::kHdlSlicedFeeds, kNotYet, kNothing},
-    {HdlConstruct::kConstantSlice, "constant-slice", Msg::kHdlConstantSlice, kNotYet, kNothing},
+    {HdlConstruct::kSlicedFeeds, "sliced-feeds", Msg::kHdlSlicedFeeds, kValid, kNothing},
+    {HdlConstruct::kConstantSlice, "constant-slice", Msg::kHdlConstantSlice, kValid, kNothing},
     {HdlConstruct::kOneBitDrivesBus, "one-bit-drives-bus", Msg::kHdlOneBitDrivesBus, kNothing, kNothing},
     {HdlConstruct::kNumericDefault, "numeric-default", Msg::kHdlNumericDefault, kValid, kNothing},
     {HdlConstruct::kNumberDrivesBit, "number-drives-bit", Msg::kHdlNumberDrivesBit, kValid, kNothing},

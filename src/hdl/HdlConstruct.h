@@ -31,7 +31,6 @@ enum class HdlConstruct : uint8_t {
 // What the valid mode does about a construct.
 enum class HdlRemedy : uint8_t {
   kValidText,      // the valid mode writes valid HDL of the same meaning
-  kNotCoveredYet,  // the valid mode does not rewrite it yet: the valid text still holds the construct
   kOtherLanguage,  // nothing in this language can express it; another language can
   kNothing,        // no valid text can express what the description says
 };

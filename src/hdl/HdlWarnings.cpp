@@ -44,8 +44,6 @@ std::string hdlFindingWarning(const HdlFinding& finding, std::string_view fileNa
   switch (remedy) {
     case HdlRemedy::kValidText:
       return errorMessage(Msg::kHdlWarningValid, file, what, where, line);
-    case HdlRemedy::kNotCoveredYet:
-      return errorMessage(Msg::kHdlWarningNotYet, file, what, where, line);
     case HdlRemedy::kOtherLanguage:
       return errorMessage(Msg::kHdlWarningOtherLanguage, file, what, where, line, otherLanguage(finding));
     case HdlRemedy::kNothing:

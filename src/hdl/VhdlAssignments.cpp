@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "base/Format.h"
@@ -143,9 +144,14 @@ void appendWireAssignments(const std::vector<NetlistWire>& wires, AssignmentText
 // has always been left out.
 class GroupedAssignments {
  public:
-  GroupedAssignments(const std::vector<NetlistWire>& wires, AssignmentText& out) : out_(out) {
+  // The valid text assigns a variation port's bit to the one-bit wire that carries it into a slice.
+  GroupedAssignments(const std::vector<NetlistWire>& wires, AssignmentText& out, HdlTextMode mode)
+      : out_(out) {
     for (const NetlistWire& wire : wires) {
       if (wire.isConstant) constantWires_.insert(wire.name);
+      const bool carriesPortBit = !wire.isConstant && !wire.isInverted &&
+                                  wire.sourceText == wire.drivingPort && wire.sourceKey == wire.drivingPort;
+      if (mode == HdlTextMode::kValid && carriesPortBit) portBitWires_.emplace(wire.name, wire.drivingPort);
     }
   }
 
@@ -170,7 +176,15 @@ class GroupedAssignments {
       const bool oneSideFlat = c.own.bits.present() != c.peer.bits.present();
       if (oneSideFlat && !constantPeer) {
         if (c.role != ConversionRole::kNone) return;
-        addBitSelection(c);
+        const auto port = portBitWires_.find(c.peerName);
+        if (port != portBitWires_.end() && c.own.bits.width.isOne()) {
+          open(c.peerName.view());
+          target_ += "(0)";
+          right_ += separator_;
+          right_ += port->second.view();
+        } else {
+          addBitSelection(c);
+        }
       } else {
         if (c.own.rows.present() || !c.peer.rows.present() || c.role != ConversionRole::kNone) return;
         open(c.peerName.view());
@@ -238,6 +252,7 @@ class GroupedAssignments {
 
   AssignmentText& out_;
   NameSet constantWires_;
+  std::unordered_map<Name, Name> portBitWires_;  // wire -> the variation port whose bit it carries
   ShapeTexts ranges_;
   std::string target_, previous_, right_, separator_;
 };
@@ -254,7 +269,7 @@ void VhdlFileWriter::appendConcurrentAssignments(std::string& text, const VhdlNe
   const Netlist& netlist = signals.netlist;
   AssignmentText out(text);
   appendWireAssignments(netlist.wires(), out, mode_);
-  GroupedAssignments grouped(netlist.wires(), out);
+  GroupedAssignments grouped(netlist.wires(), out, mode_);
   for (const NetlistConnection& connection : netlist.connections()) grouped.add(connection);
   grouped.finish();
 

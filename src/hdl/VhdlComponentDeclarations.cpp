@@ -1,4 +1,5 @@
 // The VHDL component declarations of the sub-modules a variation instantiates.
+#include <algorithm>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -35,11 +36,33 @@ std::string componentGenericText(const CnxDescription& description, Name instanc
   return text;
 }
 
+// Per module and port (module + "." + port), the highest bit + 1 that the connections of its instances feed.
+std::unordered_map<std::string, long long> fedWidths(const CnxDescription& description,
+                                                     const Netlist& netlist) {
+  std::unordered_map<Name, Name> moduleOf;
+  for (const CnxModule& module : description.modules)
+    moduleOf.emplace(module.instanceName, module.moduleName);
+  std::unordered_map<std::string, long long> widths;
+  for (const NetlistConnection& c : netlist.connections()) {
+    const auto module = moduleOf.find(c.ownInstance);
+    if (c.ownInstance.empty() || module == moduleOf.end() || !c.own.bits.present() || c.own.rows.present())
+      continue;
+    const long long top = vhdlIntegerOf(c.own.bits.low) + vhdlIntegerOf(c.own.bits.width);
+    long long& width = widths[module->second.str() + "." + c.ownPort.str()];
+    width = std::max(width, top);
+  }
+  return widths;
+}
+
 }  // namespace
 
-// One declaration per distinct module, with the generics of its first instance.
+// One declaration per distinct module, with the generics of its first instance. In the valid text a port fed
+// in slices is as wide as the highest bit fed, not as the widest slice.
 std::string VhdlFileWriter::componentDeclarationsText() const {
   const std::vector<SubModulePort>& subModulePorts = netlist_.subModulePorts();
+  const auto widths = mode_ == HdlTextMode::kValid ? fedWidths(description_, netlist_)
+                                                   : std::unordered_map<std::string, long long>();
+  TextPool texts;
   std::unordered_map<Name, std::vector<size_t>> portsByModule;
   for (size_t i = 0; i < subModulePorts.size(); ++i) portsByModule[subModulePorts[i].moduleName].push_back(i);
 
@@ -53,8 +76,13 @@ std::string VhdlFileWriter::componentDeclarationsText() const {
       const char* separator = "";
       for (size_t i : ports->second) {
         const SubModulePort& port = subModulePorts[i];
+        Shape shape = port.shape;
+        const auto fed = widths.find(port.moduleName.str() + "." + port.portName.str());
+        if (fed != widths.end() &&
+            fed->second > vhdlIntegerOf(shape.bits.width) + vhdlIntegerOf(shape.bits.low))
+          shape.bits = Range{Bound::ofNumber(fed->second, texts), Bound()};
         appendFormatted(portLines, "%s\t\t\t%s\t: %s %s", separator, port.portName.c_str(),
-                        subModuleDirectionWord(port.direction), vhdlTypeText(port.shape).c_str());
+                        subModuleDirectionWord(port.direction), vhdlTypeText(shape).c_str());
         separator = ";\n";
       }
     }

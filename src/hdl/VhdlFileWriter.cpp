@@ -18,7 +18,7 @@ VhdlFileWriter::VhdlFileWriter(UserInterface& ui, std::string basePath, std::str
 }
 
 std::string VhdlFileWriter::buildDesignText() const {
-  const VhdlNetlist signals = declareVhdlSignals(netlist_, description_, signatureName_);
+  const VhdlNetlist signals = declareVhdlSignals(netlist_, description_, signatureName_, mode_);
   return fillTemplate(
       "%s\n%s\n%s%sARCHITECTURE SYN OF %s IS\n\n%s\n%sBEGIN\n%s\n%sEND SYN;\n\n",
       {headerText(), legalNoticeText(), libraryClausesText(), entityText(), fileName_,

@@ -80,8 +80,15 @@ struct ConversionGroup {
   long long rowsWidth = 0, bitsWidth = 0;
 };
 
+// A constant part reads its wire, which holds just the constant's bits: the standard text reads it at the
+// part's own bit positions, the valid text from bit 0.
 std::vector<NetlistConversion> conversionsOf(const Netlist& netlist, const CnxDescription& description,
-                                             TextPool& texts) {
+                                             TextPool& texts, HdlTextMode mode) {
+  std::unordered_map<Name, Shape> constantWires;
+  if (mode == HdlTextMode::kValid) {
+    for (const NetlistWire& wire : netlist.wires())
+      if (wire.isConstant) constantWires.emplace(wire.name, shapeOf(wire));
+  }
   const std::vector<NetlistConnection>& connections = netlist.connections();
   const InstanceGroups byInstance(connections);
 
@@ -101,7 +108,9 @@ std::vector<NetlistConversion> conversionsOf(const Netlist& netlist, const CnxDe
           const NetlistConnection& c = connections[group.members[k]];
           if (k > 0) conversion.joinedText += " & ";
           conversion.joinedText += c.peerName.view();
-          conversion.joinedText += ranges.get(keyOf(c.peer), [&c] { return vhdlRangeText(c.peer); });
+          const auto constant = constantWires.find(c.peerName);
+          const Shape& read = constant == constantWires.end() ? c.peer : constant->second;
+          conversion.joinedText += ranges.get(keyOf(read), [&read] { return vhdlRangeText(read); });
         }
         conversion.key = instance.str() + "." + group.port.str();
         conversion.port = group.port;
@@ -128,7 +137,7 @@ std::vector<NetlistConversion> conversionsOf(const Netlist& netlist, const CnxDe
 }  // namespace
 
 VhdlNetlist declareVhdlSignals(const Netlist& netlist, const CnxDescription& description,
-                               std::string_view signatureName) {
+                               std::string_view signatureName, HdlTextMode mode) {
   auto texts = std::make_unique<TextPool>();
   Declaration declaration = declareWires(netlist, MainModuleWidening(description, signatureName), *texts);
   VhdlNetlist result;
@@ -136,7 +145,7 @@ VhdlNetlist declareVhdlSignals(const Netlist& netlist, const CnxDescription& des
   TextPool& pool = *texts;
   result.netlist =
       Netlist(netlist, std::move(declaration.wires), std::move(declaration.connections), std::move(texts));
-  result.conversions = conversionsOf(result.netlist, description, pool);
+  result.conversions = conversionsOf(result.netlist, description, pool, mode);
   return result;
 }
 

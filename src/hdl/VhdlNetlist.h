@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "hdl/HdlTextMode.h"
 #include "hdl/Netlist.h"
 
 namespace plovix {
@@ -22,6 +23,6 @@ struct VhdlNetlist {
 };
 
 VhdlNetlist declareVhdlSignals(const Netlist& netlist, const CnxDescription& description,
-                               std::string_view signatureName);
+                               std::string_view signatureName, HdlTextMode mode = HdlTextMode::kStandard);
 
 }  // namespace plovix

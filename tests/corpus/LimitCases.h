@@ -12,7 +12,7 @@ namespace plovix::testing {
 
 inline const char* const kLimitCases[] = {"upper_parameter", "numeric_default", "number_drives_bit",
                                           "constant_slice",  "one_bit_bus",     "inverted_output",
-                                          "pin_read_twice",  "main_slices"};
+                                          "pin_read_twice",  "main_slices",     "sliced_feeds"};
 
 inline bool isLimitCase(const std::string& name) {
   for (const char* limit : kLimitCases)

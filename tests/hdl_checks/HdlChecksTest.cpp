@@ -109,10 +109,11 @@ INSTANTIATE_TEST_SUITE_P(Cases, HdlTextModes, ::testing::ValuesIn(testing::corpu
 
 // The warning names the file, the construct, the place and the line, in the form the remedy asks for.
 TEST(HdlChecks, WarningsNameFileConstructPlaceAndRemedy) {
-  const HdlFinding slices{HdlConstruct::kSlicedFeeds, OutputLanguage::kVhdl, "data", "s", 14};
-  EXPECT_EQ(hdlFindingWarning(slices, "v.vhd", HdlTextMode::kValid),
-            errorMessage(Msg::kHdlWarningNotYet, "v.vhd", errorMessage(Msg::kHdlSlicedFeeds),
-                         errorMessage(Msg::kHdlWherePortOfInstance, "data", "s"), "14"));
+  const HdlFinding inverted{HdlConstruct::kInvertedOutput, OutputLanguage::kVerilog, "q", "cnt", 7};
+  EXPECT_EQ(hdlFindingWarning(inverted, "v.v", HdlTextMode::kStandard),
+            errorMessage(Msg::kHdlWarningValid, "v.v", errorMessage(Msg::kHdlInvertedOutput),
+                         errorMessage(Msg::kHdlWherePortOfInstance, "q", "cnt"), "7"));
+  EXPECT_EQ(hdlFindingWarning(inverted, "v.v", HdlTextMode::kValid), "");
   const HdlFinding rows{HdlConstruct::kTwoDimensionalRows, OutputLanguage::kVhdl, "data", "m", 9};
   EXPECT_EQ(hdlFindingWarning(rows, "v.vhd", HdlTextMode::kStandard),
             errorMessage(Msg::kHdlWarningOtherLanguage, "v.vhd", errorMessage(Msg::kHdlTwoDimensionalRows),
