@@ -218,7 +218,7 @@ constexpr Row kTable[] = {
     {Msg::kHdlWhereInstance, "instance %s"},
     {Msg::kHdlWhereName, "the name %s"},
     {Msg::kHdlEmptyGenericMap, "an instance without constants of its own gets an empty VHDL generic map"},
-    {Msg::kHdlReservedWord, "a VHDL reserved word used as a name"},
+    {Msg::kHdlReservedWord, "a VHDL reserved word, or no VHDL identifier, used as a name"},
     {Msg::kHdlPassedParameter,
      "a parameter passed on to the sub-modules is declared with its own name as its VHDL type"},
     {Msg::kHdlUpperCaseParameter,
@@ -238,6 +238,19 @@ constexpr Row kTable[] = {
     {Msg::kHdlVccDrivesBus, "VCC driving a bus sets only its lowest bit in Verilog"},
     {Msg::kHdlPinReadTwice, "a sub-module output read in two slices connects the same pin twice"},
     {Msg::kHdlReasonWhichBits, "the description does not say which bits of the bus the bit drives"},
+    {Msg::kHdlWarningNotYet,
+     "%s: %s at %s (line %s of the description); --hdl-text valid does not cover it yet"},
+    {Msg::kHdlVerilogKeyword, "a Verilog keyword, or no Verilog identifier, used as a name"},
+    {Msg::kHdlLowerCasedName,
+     "a sub-module output port or module name with capitals is lower-cased in Verilog"},
+    {Msg::kHdlBitOfBusToBit,
+     "one bit of a variation bus feeding a single-bit sub-module input is connected as the whole bus"},
+    {Msg::kHdlSliceToWholePort,
+     "a slice of a variation port feeding a whole sub-module input is connected as the whole port"},
+    {Msg::kHdlBitOfOutputToBit,
+     "one bit of a sub-module bus output feeding a single-bit output is read from a one-bit wire"},
+    {Msg::kHdlGenericsOfFirstInstance,
+     "an instance without a constant that the module's first instance has lacks that VHDL generic"},
 };
 
 // Every message has its row, at the index of its number.

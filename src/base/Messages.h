@@ -193,6 +193,13 @@ enum class Msg : int {
   kHdlVccDrivesBus,
   kHdlPinReadTwice,
   kHdlReasonWhichBits,
+  kHdlWarningNotYet,
+  kHdlVerilogKeyword,
+  kHdlLowerCasedName,
+  kHdlBitOfBusToBit,
+  kHdlSliceToWholePort,
+  kHdlBitOfOutputToBit,
+  kHdlGenericsOfFirstInstance,
 
   kMessageCount
 };

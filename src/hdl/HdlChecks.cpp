@@ -9,6 +9,7 @@
 #include <tuple>
 #include <vector>
 
+#include "base/TextHelpers.h"
 #include "hdl/VerilogNetlist.h"
 
 namespace plovix {
@@ -103,7 +104,15 @@ bool declaredWithAt(const CnxDescription& description, Name instance, Name port)
 
 // The checks of both languages: connections the text of neither expresses.
 void findSharedConstructs(const CnxDescription& description, const Netlist& netlist,
-                          const std::vector<Connect>& connects, Findings& out) {
+                          const std::vector<Connect>& connects, Findings& out, bool vhdl) {
+  std::map<std::string, int> feedCount;
+  for (const Connect& c : connects) ++feedCount[endKey(c.instance, c.port)];
+  auto variationPort = [&](Name name) -> const CnxUsedPort* {
+    for (const auto* ports : {&description.inputPorts, &description.outputPorts})
+      for (const CnxUsedPort& port : *ports)
+        if (port.name == name) return &port;
+    return nullptr;
+  };
   // Per driving sub-module port, the ranges it is read in.
   std::map<std::string, std::set<std::pair<uint64_t, uint64_t>>> readRanges;
   for (const Connect& c : connects) {
@@ -113,6 +122,19 @@ void findSharedConstructs(const CnxDescription& description, const Netlist& netl
       out.add(HdlConstruct::kOneBitDrivesBus, c.port.view(), c.instance.view(), end.line);
     if (netlist.packsRows() && !c.instance.empty() && end.own.rows.present() && !end.peer.rows.present())
       out.add(HdlConstruct::kTwoDimensionalRows, c.port.view(), c.instance.view(), end.line);
+    const bool fromVariationPort = !end.peerIsConstant && end.peerInstance.empty();
+    if (fromVariationPort && !c.instance.empty() && end.own.isSingleBit() && !end.peer.isSingleBit())
+      out.add(HdlConstruct::kBitOfBusToBit, c.port.view(), c.instance.view(), end.line);
+    // VHDL joins several feeds of one port with their ranges; Verilog joins them by name.
+    if (fromVariationPort && !c.instance.empty() && bitCount(end.own.bits) > 1 && !end.own.rows.present() &&
+        (!vhdl || feedCount[endKey(c.instance, c.port)] == 1)) {
+      const CnxUsedPort* port = variationPort(end.peerPort);
+      if (port != nullptr && end.peer.bits.present() && !(port->shape.bits == end.peer.bits))
+        out.add(HdlConstruct::kSliceToWholePort, c.port.view(), c.instance.view(), end.line);
+    }
+    if (c.instance.empty() && end.own.isSingleBit() && !end.peerIsConstant && !end.peerInstance.empty() &&
+        end.peer.bits.present() && !declaredWithAt(description, end.peerInstance, end.peerPort))
+      out.add(HdlConstruct::kBitOfOutputToBit, c.port.view(), {}, end.line);
     if (end.peerIsConstant || end.peerInstance.empty()) continue;
     if (end.peerInverted)
       out.add(HdlConstruct::kInvertedOutput, end.peerPort.view(), end.peerInstance.view(), end.line);
@@ -139,7 +161,11 @@ void findVhdlConstructs(const CnxDescription& description, const Netlist& netlis
   auto reserved = [&](Name name, std::string_view instance, int32_t line) {
     if (isVhdlReservedWord(name.view())) out.add(HdlConstruct::kReservedWord, name.view(), instance, line);
   };
-  for (const CnxModule& module : description.modules) reserved(module.moduleName, {}, module.line);
+  for (const CnxModule& module : description.modules) {
+    reserved(module.moduleName, {}, module.line);
+    if (!module.instanceName.empty() && isVhdlReservedWord(module.instanceName.str() + "_component"))
+      out.add(HdlConstruct::kReservedWord, module.instanceName.view(), {}, module.line);
+  }
   for (const auto* list : {&description.constants, &description.parameters})
     for (const CnxParameter& value : *list) reserved(value.name, {}, value.line);
   for (const auto* ports : {&description.inputPorts, &description.outputPorts})
@@ -160,6 +186,21 @@ void findVhdlConstructs(const CnxDescription& description, const Netlist& netlis
       if (port.direction != PortDirection::kOutput && port.defaultValue.kind == DefaultKind::kOther)
         out.add(HdlConstruct::kNumericDefault, port.name.view(), {}, port.line);
     }
+  }
+
+  // The one component declaration of a module takes the constants of its first instance.
+  auto constantsOf = [&](Name instance) {
+    std::set<std::string> names;
+    for (const CnxConstant& c : description.constants)
+      if (c.target.empty() || c.target == instance) names.insert(toLowerText(c.name.view()));
+    return names;
+  };
+  std::map<std::string, std::set<std::string>> firstInstanceConstants;
+  for (const CnxModule& module : description.modules) {
+    const auto [first, isFirst] =
+        firstInstanceConstants.emplace(module.moduleName.str(), constantsOf(module.instanceName));
+    if (!isFirst && first->second != constantsOf(module.instanceName))
+      out.add(HdlConstruct::kGenericsOfFirstInstance, {}, module.instanceName.view(), module.line);
   }
 
   // Per driven sub-module port, the feeds and the bits they add up to.
@@ -198,6 +239,27 @@ void findVerilogConstructs(const CnxDescription& description, const Netlist& net
     const CnxConnectionEnd& end = *c.end;
     if (end.peerIsConstant && end.peerPort == "VCC" && (bitCount(end.own.bits) > 1 || end.own.rows.present()))
       out.add(HdlConstruct::kVccDrivesBus, c.port.view(), c.instance.view(), end.line);
+  }
+
+  // Names the text writes as they stand or lower-cased.
+  auto keyword = [&](Name name, std::string_view instance, int32_t line) {
+    if (isVerilogKeyword(name.view())) out.add(HdlConstruct::kVerilogKeyword, name.view(), instance, line);
+  };
+  for (const CnxModule& module : description.modules) {
+    keyword(module.moduleName, {}, module.line);
+    if (hasCapital(module.moduleName.view()))
+      out.add(HdlConstruct::kLowerCasedName, module.moduleName.view(), {}, module.line);
+  }
+  for (const auto* list : {&description.constants, &description.parameters})
+    for (const CnxParameter& value : *list) keyword(value.name, {}, value.line);
+  for (const auto* ports : {&description.inputPorts, &description.outputPorts})
+    for (const CnxUsedPort& port : *ports) keyword(port.name, {}, port.line);
+  for (const Connect& c : connects) {
+    if (!c.instance.empty()) keyword(c.port, c.instance.view(), c.end->line);
+    if (c.end->peerIsConstant || c.end->peerInstance.empty()) continue;
+    keyword(c.end->peerPort, c.end->peerInstance.view(), c.end->line);
+    if (hasCapital(c.end->peerPort.view()))
+      out.add(HdlConstruct::kLowerCasedName, c.end->peerPort.view(), c.end->peerInstance.view(), c.end->line);
   }
 
   // An output is declared from the low index of its first connection and the widths of its group.
@@ -242,6 +304,17 @@ void findVerilogConstructs(const CnxDescription& description, const Netlist& net
 
 }  // namespace
 
+bool readsSliceOfVariationPort(const CnxDescription& description, const NetlistConnection& connection) {
+  if (connection.ownInstance.empty() || !connection.own.bits.present() || !connection.peer.bits.present() ||
+      connection.peer.rows.present() || connection.own.rows.present())
+    return false;
+  for (const auto* ports : {&description.inputPorts, &description.outputPorts}) {
+    for (const CnxUsedPort& port : *ports)
+      if (port.name == connection.peerName) return !(port.shape.bits == connection.peer.bits);
+  }
+  return false;
+}
+
 std::vector<HdlFinding> findHdlConstructs(const CnxDescription& description, const Netlist& netlist,
                                           std::string_view signatureName, OutputLanguage language) {
   Findings out(language);
@@ -253,7 +326,7 @@ std::vector<HdlFinding> findHdlConstructs(const CnxDescription& description, con
   } else {
     findVerilogConstructs(description, netlist, signatureName, connects, out);
   }
-  findSharedConstructs(description, netlist, connects, out);
+  findSharedConstructs(description, netlist, connects, out, vhdl);
   return out.take();
 }
 

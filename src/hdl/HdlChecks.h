@@ -21,7 +21,13 @@ std::vector<HdlFinding> findHdlConstructs(const CnxDescription& description, con
 // the valid mode warns only about what it could not make valid.
 std::string hdlFindingWarning(const HdlFinding& finding, std::string_view fileName, HdlTextMode mode);
 
-// A VHDL reserved word (case ignored).
+// The connection feeds a sub-module port from a slice of a variation port other than the whole port (the
+// standard text connects the whole port; the valid text the slice).
+bool readsSliceOfVariationPort(const CnxDescription& description, const NetlistConnection& connection);
+
+// A VHDL reserved word (case ignored), or a name that is no VHDL identifier.
 bool isVhdlReservedWord(std::string_view name);
+// A Verilog keyword as written or lower-cased (the writer lower-cases most names), or no Verilog identifier.
+bool isVerilogKeyword(std::string_view name);
 
 }  // namespace plovix

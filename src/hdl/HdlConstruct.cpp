@@ -16,11 +16,12 @@ struct ConstructRow {
 };
 
 constexpr HdlRemedy kValid = HdlRemedy::kValidText;
+constexpr HdlRemedy kNotYet = HdlRemedy::kNotCoveredYet;
 constexpr HdlRemedy kOther = HdlRemedy::kOtherLanguage;
 constexpr HdlRemedy kNothing = HdlRemedy::kNothing;
 
 // In the order of the enum; a construct a language never holds has the remedy kNothing there (unused).
-constexpr std::array<ConstructRow, 15> kConstructs = {{
+constexpr std::array<ConstructRow, 21> kConstructs = {{
     {HdlConstruct::kEmptyGenericMap, "empty-generic-map", Msg::kHdlEmptyGenericMap, kValid, kNothing},
     {HdlConstruct::kReservedWord, "reserved-word", Msg::kHdlReservedWord, kOther, kNothing},
     {HdlConstruct::kPassedParameter, "passed-parameter", Msg::kHdlPassedParameter, kValid, kNothing},
@@ -37,6 +38,13 @@ constexpr std::array<ConstructRow, 15> kConstructs = {{
     {HdlConstruct::kMainPortNarrowed, "main-port-narrowed", Msg::kHdlMainPortNarrowed, kNothing, kValid},
     {HdlConstruct::kVccDrivesBus, "vcc-drives-bus", Msg::kHdlVccDrivesBus, kNothing, kValid},
     {HdlConstruct::kPinReadTwice, "pin-read-twice", Msg::kHdlPinReadTwice, kValid, kValid},
+    {HdlConstruct::kVerilogKeyword, "verilog-keyword", Msg::kHdlVerilogKeyword, kNothing, kOther},
+    {HdlConstruct::kLowerCasedName, "lower-cased-name", Msg::kHdlLowerCasedName, kNothing, kValid},
+    {HdlConstruct::kBitOfBusToBit, "bit-of-bus-to-bit", Msg::kHdlBitOfBusToBit, kNotYet, kNotYet},
+    {HdlConstruct::kSliceToWholePort, "slice-to-whole-port", Msg::kHdlSliceToWholePort, kValid, kValid},
+    {HdlConstruct::kBitOfOutputToBit, "bit-of-output-to-bit", Msg::kHdlBitOfOutputToBit, kNotYet, kNotYet},
+    {HdlConstruct::kGenericsOfFirstInstance, "generics-of-first-instance", Msg::kHdlGenericsOfFirstInstance,
+     kNotYet, kNothing},
 }};
 
 constexpr bool rowsInOrder() {

@@ -17,7 +17,11 @@ std::string placeText(const HdlFinding& finding) {
     case HdlConstruct::kReservedWord:
     case HdlConstruct::kPassedParameter:
     case HdlConstruct::kUpperCaseParameter:
+    case HdlConstruct::kVerilogKeyword:
       return errorMessage(Msg::kHdlWhereName, finding.port);
+    case HdlConstruct::kLowerCasedName:
+      if (finding.instance.empty()) return errorMessage(Msg::kHdlWhereName, finding.port);
+      break;
     default:
       break;
   }
@@ -26,9 +30,9 @@ std::string placeText(const HdlFinding& finding) {
 
 // The language that can express what the construct says, where the finding's cannot.
 std::string otherLanguage(const HdlFinding& finding) {
-  const OutputLanguage other = finding.construct == HdlConstruct::kTwoDimensionalRows
-                                   ? OutputLanguage::kThdl
-                                   : OutputLanguage::kVerilog;
+  OutputLanguage other =
+      finding.language == OutputLanguage::kVhdl ? OutputLanguage::kVerilog : OutputLanguage::kVhdl;
+  if (finding.construct == HdlConstruct::kTwoDimensionalRows) other = OutputLanguage::kThdl;
   return std::string(outputKind(other).displayName);
 }
 
@@ -44,6 +48,8 @@ std::string hdlFindingWarning(const HdlFinding& finding, std::string_view fileNa
   switch (remedy) {
     case HdlRemedy::kValidText:
       return errorMessage(Msg::kHdlWarningValid, file, what, where, line);
+    case HdlRemedy::kNotCoveredYet:
+      return errorMessage(Msg::kHdlWarningNotYet, file, what, where, line);
     case HdlRemedy::kOtherLanguage:
       return errorMessage(Msg::kHdlWarningOtherLanguage, file, what, where, line, otherLanguage(finding));
     case HdlRemedy::kNothing:

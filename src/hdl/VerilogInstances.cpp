@@ -7,6 +7,7 @@
 
 #include "base/Format.h"
 #include "base/TextHelpers.h"
+#include "hdl/HdlChecks.h"
 #include "hdl/InstanceGroups.h"
 #include "hdl/VerilogFileWriter.h"
 
@@ -29,8 +30,9 @@ struct InstanceIndex {
 };
 
 // (i) The connections driving the instance's ports, grouped by consecutive equal port.
-std::string connectionItems(const std::vector<NetlistConnection>& connections,
-                            std::span<const uint32_t> list) {
+// The valid text reads a slice of a variation port as the slice (readsSliceOfVariationPort).
+std::string connectionItems(const std::vector<NetlistConnection>& connections, std::span<const uint32_t> list,
+                            const CnxDescription& description, HdlTextMode mode) {
   std::string items;
   const char* separator = "";
   Name port;
@@ -54,19 +56,23 @@ std::string connectionItems(const std::vector<NetlistConnection>& connections,
     }
     rightHand += members++ == 0 ? "" : ", ";
     rightHand += c->peerName.view();
+    if (mode == HdlTextMode::kValid && readsSliceOfVariationPort(description, *c))
+      rightHand += c->peerBitsRange.view();
   }
   close();
   return items;
 }
 
-// (ii) The wires the instance's outputs drive, each port and wire pair once.
-std::string wireItems(const std::vector<const NetlistWire*>* list) {
+// (ii) The wires the instance's outputs drive, each port and wire pair once. The standard text lower-cases
+// the port names, the valid text writes them as the description does.
+std::string wireItems(const std::vector<const NetlistWire*>* list, HdlTextMode mode) {
   std::string items;
   if (list == nullptr) return items;
   std::unordered_set<std::string> written;
   const char* separator = "";
   for (const NetlistWire* wire : *list) {
-    const std::string port = toLowerText(wire->drivingPort.view());
+    const std::string port =
+        mode == HdlTextMode::kValid ? wire->drivingPort.str() : toLowerText(wire->drivingPort.view());
     const std::string name = toLowerText(wire->name.view());
     const std::string item = "." + port + " (" + name + ")";
     // Port names with these characters could match inside another item; only the text itself can tell.
@@ -117,14 +123,16 @@ void VerilogFileWriter::appendInstances(std::string& text, const VerilogNetlist&
   for (const CnxModule& module : description_.modules) {
     const Name instance = module.instanceName;
     if (instance.empty()) continue;
-    const std::string fromConnections =
-        connectionItems(declaration.netlist.connections(), index.connectionsOf.of(instance));
+    const std::string fromConnections = connectionItems(
+        declaration.netlist.connections(), index.connectionsOf.of(instance), description_, mode_);
     const std::string label = instance.str() + "_component";
-    const std::string fromWires = wireItems(findIn(index.wiresOf, std::string_view(label)));
+    const std::string fromWires = wireItems(findIn(index.wiresOf, std::string_view(label)), mode_);
     const char* joint = !fromConnections.empty() && !fromWires.empty() ? ",\n" : "";
     const std::string ports = fromConnections + joint + fromWires;
-    appendTemplate(text, "\n\t%s\t%s_component (\n%s);\n",
-                   {toLowerText(module.moduleName.view()), instance.view(), ports});
+    appendTemplate(
+        text, "\n\t%s\t%s_component (\n%s);\n",
+        {mode_ == HdlTextMode::kValid ? module.moduleName.str() : toLowerText(module.moduleName.view()),
+         instance.view(), ports});
     const std::string lines = defparamLines(description_, instance, mode_);
     if (!lines.empty()) text += "\tdefparam\n" + lines + ";\n\n";
   }

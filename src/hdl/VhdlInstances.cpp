@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/Format.h"
+#include "hdl/HdlChecks.h"
 #include "hdl/InstanceGroups.h"
 #include "hdl/VhdlFileWriter.h"
 #include "hdl/VhdlTextRules.h"
@@ -110,6 +111,8 @@ void VhdlFileWriter::appendInstances(std::string& text, const VhdlNetlist& signa
         first = false;
         right += separator;
         right += c.peerName.view();
+        if (mode_ == HdlTextMode::kValid && readsSliceOfVariationPort(description_, c))
+          right += vhdlRangeText(c.peer);
         if (c.peer.bits.present() && !c.own.bits.present() && c.role == ConversionRole::kNone) {
           right += "(" + c.peer.bits.low.text() + ")";
         } else if (!c.peer.rows.present() && c.own.rows.present() && c.role == ConversionRole::kNone) {
