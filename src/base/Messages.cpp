@@ -248,7 +248,7 @@ constexpr Row kTable[] = {
     {Msg::kHdlSliceToWholePort,
      "a slice of a variation port feeding a whole sub-module input is connected as the whole port"},
     {Msg::kHdlBitOfOutputToBit,
-     "one bit of a sub-module bus output feeding a single-bit output is read from a one-bit wire"},
+     "a sub-module output read in one slice above bit 0 is read from a wire as narrow as the slice"},
     {Msg::kHdlGenericsOfFirstInstance,
      "an instance without a constant that the module's first instance has lacks that VHDL generic"},
 };

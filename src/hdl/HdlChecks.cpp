@@ -102,6 +102,16 @@ bool declaredWithAt(const CnxDescription& description, Name instance, Name port)
                      [port](const CnxUsedPort& declared) { return declared.name == port; });
 }
 
+// A sub-module output read in a single slice that starts above bit 0: its wire is only as wide as the slice.
+void findSliceAboveZero(const std::map<std::string, std::set<std::pair<uint64_t, uint64_t>>>& readRanges,
+                        const std::map<std::string, const Connect*>& firstReader, Findings& out) {
+  for (const auto& [pin, ranges] : readRanges) {
+    const CnxConnectionEnd& end = *firstReader.at(pin)->end;
+    if (ranges.size() == 1 && end.peer.bits.present() && end.peer.bits.low.value() != 0)
+      out.add(HdlConstruct::kBitOfOutputToBit, end.peerPort.view(), end.peerInstance.view(), end.line);
+  }
+}
+
 // The checks of both languages: connections the text of neither expresses.
 void findSharedConstructs(const CnxDescription& description, const Netlist& netlist,
                           const std::vector<Connect>& connects, Findings& out, bool vhdl) {
@@ -115,6 +125,7 @@ void findSharedConstructs(const CnxDescription& description, const Netlist& netl
   };
   // Per driving sub-module port, the ranges it is read in.
   std::map<std::string, std::set<std::pair<uint64_t, uint64_t>>> readRanges;
+  std::map<std::string, const Connect*> firstReader;
   for (const Connect& c : connects) {
     const CnxConnectionEnd& end = *c.end;
     if (!end.peerIsConstant && end.peer.isSingleBit() &&
@@ -132,9 +143,6 @@ void findSharedConstructs(const CnxDescription& description, const Netlist& netl
       if (port != nullptr && end.peer.bits.present() && !(port->shape.bits == end.peer.bits))
         out.add(HdlConstruct::kSliceToWholePort, c.port.view(), c.instance.view(), end.line);
     }
-    if (c.instance.empty() && end.own.isSingleBit() && !end.peerIsConstant && !end.peerInstance.empty() &&
-        end.peer.bits.present() && !declaredWithAt(description, end.peerInstance, end.peerPort))
-      out.add(HdlConstruct::kBitOfOutputToBit, c.port.view(), {}, end.line);
     if (end.peerIsConstant || end.peerInstance.empty()) continue;
     if (end.peerInverted)
       out.add(HdlConstruct::kInvertedOutput, end.peerPort.view(), end.peerInstance.view(), end.line);
@@ -142,9 +150,11 @@ void findSharedConstructs(const CnxDescription& description, const Netlist& netl
     if (declaredWithAt(description, end.peerInstance, end.peerPort)) continue;
     auto& ranges = readRanges[endKey(end.peerInstance, end.peerPort)];
     ranges.insert({end.peer.bits.low.raw(), end.peer.bits.width.raw()});
+    firstReader.emplace(endKey(end.peerInstance, end.peerPort), &c);
     if (ranges.size() == 2)
       out.add(HdlConstruct::kPinReadTwice, end.peerPort.view(), end.peerInstance.view(), end.line);
   }
+  findSliceAboveZero(readRanges, firstReader, out);
 }
 
 void findVhdlConstructs(const CnxDescription& description, const Netlist& netlist,
@@ -281,11 +291,15 @@ void findVerilogConstructs(const CnxDescription& description, const Netlist& net
            connections[j].ownPort == first.ownPort;
          ++j)
       width += connections[j].peer.bits.present() ? bitCount(connections[j].peer.bits) : 0;
-    const CnxUsedPort* port = portLine(first.ownPort);
-    if (port != nullptr && port->shape.bits.present() &&
-        (first.own.bits.low != port->shape.bits.low || width != bitCount(port->shape.bits)))
-      out.add(HdlConstruct::kOutputRange, first.ownPort.view(), {}, port->line);
     i = j;
+    const CnxUsedPort* port = portLine(first.ownPort);
+    if (port == nullptr) continue;
+    // A single-bit port fed from a slice is declared as a one-bit vector.
+    const bool scalarAsVector = !port->shape.bits.present() && !port->shape.rows.present() && width > 0;
+    const bool otherRange = port->shape.bits.present() && (first.own.bits.low != port->shape.bits.low ||
+                                                           width != bitCount(port->shape.bits));
+    if (scalarAsVector || otherRange)
+      out.add(HdlConstruct::kOutputRange, first.ownPort.view(), {}, port->line);
   }
 
   // A main-module wire narrowed to one bit where its user reads several.

@@ -42,7 +42,7 @@ constexpr std::array<ConstructRow, 21> kConstructs = {{
     {HdlConstruct::kLowerCasedName, "lower-cased-name", Msg::kHdlLowerCasedName, kNothing, kValid},
     {HdlConstruct::kBitOfBusToBit, "bit-of-bus-to-bit", Msg::kHdlBitOfBusToBit, kNotYet, kNotYet},
     {HdlConstruct::kSliceToWholePort, "slice-to-whole-port", Msg::kHdlSliceToWholePort, kValid, kValid},
-    {HdlConstruct::kBitOfOutputToBit, "bit-of-output-to-bit", Msg::kHdlBitOfOutputToBit, kNotYet, kNotYet},
+    {HdlConstruct::kBitOfOutputToBit, "slice-above-zero", Msg::kHdlBitOfOutputToBit, kValid, kValid},
     {HdlConstruct::kGenericsOfFirstInstance, "generics-of-first-instance", Msg::kHdlGenericsOfFirstInstance,
      kNotYet, kNothing},
 }};

@@ -36,7 +36,8 @@ long long integerOf(Bound bound) {
   return bound.isInteger() ? bound.value() : 0;
 }
 
-// Merges the wires of a pin read in several slices into its first wire; true when some pin was.
+// Merges the wires of a pin read in several slices into its first wire, and widens the wire of a pin read in
+// one slice above bit 0 to reach that slice; true when some pin changed.
 bool joinSlicedPins(Netlist::Parts& parts, const CnxDescription& description, TextPool& texts) {
   std::unordered_map<std::string_view, std::vector<size_t>> wiresOfPin;
   for (size_t w = 0; w < parts.wires.size(); ++w) {
@@ -44,10 +45,13 @@ bool joinSlicedPins(Netlist::Parts& parts, const CnxDescription& description, Te
     const std::string_view pin = pinOf(parts.wires[w], description);
     if (!pin.empty()) wiresOfPin[pin].push_back(w);
   }
+  std::unordered_map<Name, bool> readAboveZero;
+  for (const NetlistConnection& c : parts.connections)
+    if (c.peer.bits.present() && integerOf(c.peer.bits.low) != 0) readAboveZero[c.peerName] = true;
   std::unordered_map<Name, Name> joinedInto;  // a wire of a joined pin -> the pin's wire
   std::vector<bool> dropped(parts.wires.size(), false);
   for (const auto& [pin, list] : wiresOfPin) {
-    if (list.size() < 2) continue;
+    if (list.size() < 2 && !readAboveZero[parts.wires[list.front()].name]) continue;
     NetlistWire& kept = parts.wires[list.front()];
     for (size_t w : list) {
       joinedInto.emplace(parts.wires[w].name, kept.name);
@@ -73,6 +77,10 @@ bool joinSlicedPins(Netlist::Parts& parts, const CnxDescription& description, Te
     if (dropped[w]) continue;
     NetlistWire wire = parts.wires[w];
     if (const auto width = widthOf.find(wire.name); width != widthOf.end()) {
+      if (width->second <= integerOf(wire.bitsWidth)) {
+        wires.push_back(wire);
+        continue;
+      }
       wire.bitsWidth = Bound::ofNumber(width->second, texts);
       // The component declares the pin as wide as its wire.
       const std::string_view pin = pinOf(wire, description);

@@ -1,5 +1,6 @@
 // The first part of the Verilog body: the internal wires with their values, then the variation's outputs
 // assigned from the wires and ports that feed them.
+#include <optional>
 #include <string>
 
 #include "base/Format.h"
@@ -35,14 +36,13 @@ std::string groupRange(long long width, Bound low) {
   return "[" + upperBoundText(decimalText(width), lowText) + ":" + lowText + "]";
 }
 
-// The ranges of the variation port `name` as its declaration gives them; empty for a single bit or an
+// The ranges of the variation port `name` as its declaration gives them (empty for a single bit); none for an
 // unknown port.
-std::string declaredRanges(const CnxDescription& description, Name name) {
+std::optional<std::string> declaredRanges(const CnxDescription& description, Name name) {
   for (const CnxUsedPort& port : description.outputPorts) {
-    if (port.name == name && port.shape.bits.present())
-      return rangeText(port.shape.rows) + rangeText(port.shape.bits);
+    if (port.name == name) return rangeText(port.shape.rows) + rangeText(port.shape.bits);
   }
-  return {};
+  return std::nullopt;
 }
 
 // One group of consecutive connections that drive the same variation port.
@@ -52,14 +52,14 @@ struct OutputGroup {
   std::string rightHand;
   long long rowsWidth = 0, bitsWidth = 0;
   int members = 0;
-  // The valid text declares the output with its port's own ranges; empty: from the group's widths.
-  std::string portRanges;
+  // The valid text declares the output with its port's own ranges; none: from the group's widths.
+  std::optional<std::string> portRanges;
 
   std::string text() const {
     if (rightHand.empty()) return {};
     const std::string value = members == 1 ? rightHand + ";\n" : "{" + rightHand + "};\n";
     const std::string ranges =
-        portRanges.empty() ? groupRange(rowsWidth, rowsLow) + groupRange(bitsWidth, bitsLow) : portRanges;
+        portRanges ? *portRanges : groupRange(rowsWidth, rowsLow) + groupRange(bitsWidth, bitsLow);
     return "\twire " + ranges + " " + port.str() + " = " + value;
   }
 };

@@ -13,7 +13,7 @@ namespace plovix::testing {
 inline const char* const kLimitCases[] = {
     "upper_parameter", "numeric_default", "number_drives_bit", "constant_slice", "one_bit_bus",
     "inverted_output", "pin_read_twice",  "main_slices",       "sliced_feeds",   "reserved_names",
-    "bit_of_bus",      "slice_to_port",   "bit_of_output",     "two_instances"};
+    "bit_of_bus",      "slice_to_port",   "slice_above_zero",  "two_instances"};
 
 inline bool isLimitCase(const std::string& name) {
   for (const char* limit : kLimitCases)

@@ -4,7 +4,7 @@
 -- MODULE: pvx_counter cnt
 
 -- ============================================================
--- File Name: bit_of_output.vhd
+-- File Name: slice_above_zero.vhd
 -- Modulon Name(s):
 -- 			pvx_counter
 -- ============================================================
@@ -37,16 +37,16 @@
 LIBRARY ieee;
 USE ieee.std_logic_1164.all;
 
-ENTITY bit_of_output IS
+ENTITY slice_above_zero IS
 	PORT
 	(
 		clock		: IN STD_LOGIC ;
 		y		: OUT STD_LOGIC 
 	);
-END bit_of_output;
+END slice_above_zero;
 
 
-ARCHITECTURE SYN OF bit_of_output IS
+ARCHITECTURE SYN OF slice_above_zero IS
 
 	SIGNAL sub_wire0	: STD_LOGIC_VECTOR (0 DOWNTO 0);
 
@@ -55,12 +55,12 @@ ARCHITECTURE SYN OF bit_of_output IS
 	COMPONENT pvx_counter
 	PORT (
 			clock	: IN STD_LOGIC ;
-			q	: OUT STD_LOGIC_VECTOR (1 DOWNTO 1)
+			q	: OUT STD_LOGIC_VECTOR (7 DOWNTO 7)
 	);
 	END COMPONENT;
 
 BEGIN
-	y    <= sub_wire0(1);
+	y    <= sub_wire0(7);
 
 	cnt_component : pvx_counter
 

@@ -4,7 +4,7 @@
 // MODULE: pvx_counter cnt
 
 // ============================================================
-// File Name: bit_of_output.v
+// File Name: slice_above_zero.v
 // Modulon Name(s):
 // 			pvx_counter
 // ============================================================
@@ -34,7 +34,7 @@
 //	writes all of the variation's files anew.
 //	Keep this notice with every copy of the file.
 
-module bit_of_output (
+module slice_above_zero (
 	clock,
 	y);
 
