@@ -91,7 +91,7 @@ struct CnxUsedPort {
   Shape shape;
   PortDirection direction = PortDirection::kInput;
   PortDefault defaultValue;
-  Name tag;  // an optional further word; the automatic symbol shows it as the pin's alternative text
+  Name tag;          // an optional further word; the automatic symbol shows it as the pin's alternative text
   int32_t line = 0;  // the line's number in the description
 };
 

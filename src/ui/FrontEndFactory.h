@@ -27,9 +27,9 @@ FrontEndOptions frontEndOptionsFromEnvironment();
 // Parses a PLOVIX_UI / --ui value; false when it is none of batch, console, qt.
 bool parseFrontEndKind(const std::string& text, FrontEndKind& kind);
 
-// The first of PLOVIX_UI, PLOVIX_ANSWER, PLOVIX_LANGUAGE and PLOVIX_HDL_TEXT that is set to a value it does not take (case
-// ignored), as the usage error that names it and its values; empty when they are all valid. An option that
-// overrides the variable does not make a bad value good.
+// The first of PLOVIX_UI, PLOVIX_ANSWER, PLOVIX_LANGUAGE and PLOVIX_HDL_TEXT that is set to a value it does
+// not take (case ignored), as the usage error that names it and its values; empty when they are all valid. An
+// option that overrides the variable does not make a bad value good.
 std::string invalidFrontEndSetting();
 
 // The front end of the options' kind; automatic means Qt when a display is there and the Qt module is
