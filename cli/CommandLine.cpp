@@ -70,6 +70,7 @@ struct Sources {
 std::vector<std::pair<const char*, Task>> tasksGiven(const CLI::App& app) {
   const std::pair<const char*, Task> options[] = {{"--check", Task::kCheck},
                                                   {"--describe-modulon", Task::kDescribeModulon},
+                                                  {"--lint", Task::kLint},
                                                   {"--list-modulons", Task::kListModulons},
                                                   {"--render-symbol", Task::kRenderSymbol}};
   std::vector<std::pair<const char*, Task>> given;
@@ -85,14 +86,16 @@ std::string combinationError(const CLI::App& app, const Sources& in, CommandLine
   if (!tasks.empty()) out.task = tasks[0].second;
   for (const char* option : {"--update", "--jobs"})
     if (app.count(option) > 0 && out.task != Task::kCheck) return errorMessage(Msg::kUsageNeedsCheck, option);
-  if (out.task == Task::kCheck) {
+  if (out.task == Task::kCheck || out.task == Task::kLint) {
     out.checkPaths = in.files;
+    if (out.task == Task::kLint && in.files.empty()) return errorMessage(Msg::kUsageLintNeedsFile);
   } else if (out.task != Task::kRun && !in.files.empty()) {
     return errorMessage(Msg::kUsageNoDesignFile, tasks[0].first, in.files[0]);
   } else if (in.files.size() > 1) {
     return errorMessage(Msg::kUsageOneDesignFile, in.files[0], in.files[1]);
   }
-  if (out.json && (out.task == Task::kListModulons || out.task == Task::kRenderSymbol))
+  if (out.json &&
+      (out.task == Task::kListModulons || out.task == Task::kRenderSymbol || out.task == Task::kLint))
     return errorMessage(Msg::kUsageJsonNotHere, tasks[0].first);
   if (out.json && out.task == Task::kRun && !in.ui.empty() && in.ui != "batch")
     return errorMessage(Msg::kUsageJsonNeedsBatch, in.ui);
@@ -109,7 +112,8 @@ ParseOutcome parseCommandLine(int argc, char** argv, CommandLine& out) {
   Sources in;
   app.add_option(
       "design-file", in.files,
-      "The variation's design file (.tdf, .vhd or .v); with --check, the files and directories to check");
+      "The variation's design file (.tdf, .vhd or .v); with --check, the files and directories to check; "
+      "with --lint, the .vhd and .v files to read");
   app.add_option("--ui", in.ui,
                  "Front end: batch, console or qt (default: qt with a display, console on a terminal, "
                  "else batch)")
@@ -146,6 +150,10 @@ ParseOutcome parseCommandLine(int argc, char** argv, CommandLine& out) {
   app.add_flag("--update", out.update, "With --check: rewrite the files that drifted");
   app.add_option("-j,--jobs", out.jobs, "With --check: check N variations at a time (default 1)")
       ->check(CLI::Range(1, 256));
+  app.add_flag("--lint")->description(
+      "Read the given variation files with the HDL tools that are installed (GHDL, Icarus Verilog, "
+      "Verilator, "
+      "Yosys); print 'lint: TOOL: FILE:LINE: message' for each finding; exit 1 when a tool rejects a file");
   app.add_option("--describe-modulon", out.describeModulon,
                  "Print a modulon's catalog entry and the settings its plug-in takes");
   app.add_flag("--list-modulons")->description("Print the catalog of modulons and exit");

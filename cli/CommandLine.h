@@ -9,7 +9,7 @@
 namespace plovix {
 
 // What the command does: one manager run, or one of the sub-commands.
-enum class Task { kRun, kListModulons, kRenderSymbol, kCheck, kDescribeModulon };
+enum class Task { kRun, kListModulons, kRenderSymbol, kCheck, kDescribeModulon, kLint };
 
 struct CommandLine {
   Task task = Task::kRun;
@@ -20,7 +20,7 @@ struct CommandLine {
   bool json = false;                    // one JSON object on standard output at the end
   std::string renderSymbol;             // --render-symbol FILE
   std::string describeModulon;          // --describe-modulon NAME
-  std::vector<std::string> checkPaths;  // --check PATH...
+  std::vector<std::string> checkPaths;  // --check PATH..., --lint FILE...
   bool update = false;                  // --check --update
   int jobs = 1;                         // --check -j N
 };

@@ -7,8 +7,8 @@ namespace plovix::help {
 inline constexpr const char* kSummary =
     "plovix: create and edit custom variations of modulons.\n\n"
     "With a design file name (.tdf, .vhd or .v) an existing variation is edited, or a missing one created;\n"
-    "without one the wizard starts at its first page. --check, --describe-modulon, --list-modulons and\n"
-    "--render-symbol do something else and exit; they never open a window.";
+    "without one the wizard starts at its first page. --check, --describe-modulon, --lint, --list-modulons\n"
+    "and --render-symbol do something else and exit; they never open a window.";
 
 inline constexpr const char* kUsage =
     "usage: plovix [options] [<design file name>] (plovix --help lists the options)";
@@ -29,8 +29,8 @@ inline constexpr const char* kFooter =
     "Exit status:\n"
     "  0  the variation was generated and every file written; --check found no drift; a sub-command "
     "succeeded\n"
-    "  1  the run ended without generating; --check found drift or could not check a file; a sub-command "
-    "failed\n"
+    "  1  the run ended without generating; --check found drift or could not check a file; --lint: a tool "
+    "rejected a file; a sub-command failed\n"
     "  2  usage error (also an invalid PLOVIX_UI, PLOVIX_ANSWER, PLOVIX_LANGUAGE or PLOVIX_HDL_TEXT "
     "value)\n"
     "  3  the variation was generated but a file of it was not written (an overwrite declined, a write "
@@ -43,6 +43,8 @@ inline constexpr const char* kFooter =
     "  plovix --describe-modulon lpm_counter\n"
     "  # in CI: fail when a generated file no longer matches its variation\n"
     "  plovix --check rtl\n"
+    "  # read a variation with the HDL tools that are installed\n"
+    "  plovix --lint rtl/count8.v\n"
     "\n"
     "docs/command-line.md (installed with the documents) and man plovix describe every option.";
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "base/UserInterface.h"
 #include "ui/BatchFrontEnd.h"
@@ -23,5 +24,9 @@ int renderSymbol(UserInterface& ui, const std::string& symPath);
 // Prints a modulon's catalog entry and the settings its plug-in describes, as text or as one JSON object;
 // the exit status.
 int describeModulonCommand(BatchFrontEnd& messages, const std::string& name, bool json);
+
+// Reads each variation file with the HDL tools that are installed and prints one "lint:" line per finding on
+// standard output; the exit status (1 when a tool rejected a file or a file could not be read).
+int lintCommand(const std::vector<std::string>& files);
 
 }  // namespace plovix

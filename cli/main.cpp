@@ -30,6 +30,8 @@ int runTask(const plovix::CommandLine& commandLine) {
     case plovix::Task::kCheck:
       return plovix::runCheck(
           messages, {commandLine.checkPaths, commandLine.update, commandLine.jobs, commandLine.json});
+    case plovix::Task::kLint:
+      return plovix::lintCommand(commandLine.checkPaths);
     case plovix::Task::kRun:
       break;
   }

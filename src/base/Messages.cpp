@@ -251,6 +251,19 @@ constexpr Row kTable[] = {
      "a sub-module output read in one slice above bit 0 is read from a wire as narrow as the slice"},
     {Msg::kHdlGenericsOfFirstInstance,
      "an instance without a constant that the module's first instance has lacks that VHDL generic"},
+    {Msg::kLintFindingAt, "lint: %s: %s:%s: %s"},
+    {Msg::kLintFinding, "lint: %s: %s: %s"},
+    {Msg::kLintNoTools, "none of the HDL tools %s is on PATH; %s was not checked"},
+    {Msg::kLintNotHdl, "%s is not a VHDL or Verilog HDL file (.vhd or .v); not checked"},
+    {Msg::kLintCannotRead, "cannot read %s: %s"},
+    {Msg::kLintNoScratch, "cannot make a scratch directory to check %s: %s"},
+    {Msg::kLintToolExit, "rejected the file (exit status %s)"},
+    {Msg::kLintToolKilled, "was ended by signal %s"},
+    {Msg::kLintToolTimedOut, "did not finish within %s seconds"},
+    {Msg::kLintToolTooMuchOutput, "printed more than %s bytes"},
+    {Msg::kLintToolCannotStart, "could not be started: %s"},
+    {Msg::kLintSummary, "linted %s file(s): %s not accepted, %s finding(s)"},
+    {Msg::kUsageLintNeedsFile, "--lint needs the variation files to check"},
 };
 
 // Every message has its row, at the index of its number.

@@ -201,6 +201,21 @@ enum class Msg : int {
   kHdlBitOfOutputToBit,
   kHdlGenericsOfFirstInstance,
 
+  // plovix --lint.
+  kLintFindingAt,
+  kLintFinding,
+  kLintNoTools,
+  kLintNotHdl,
+  kLintCannotRead,
+  kLintNoScratch,
+  kLintToolExit,
+  kLintToolKilled,
+  kLintToolTimedOut,
+  kLintToolTooMuchOutput,
+  kLintToolCannotStart,
+  kLintSummary,
+  kUsageLintNeedsFile,
+
   kMessageCount
 };
 

@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
+#include <cstring>
 
 #include "platform/ProgramSearch.h"
 
@@ -31,11 +32,11 @@ struct Pipe {
 };
 
 // Spawn settings: a process group of its own, no blocked signals, default quit signals, input from
-// /dev/null and output into the pipe.
+// /dev/null, output (and errors, when asked) into the pipe, and the working directory asked for.
 struct SpawnSetup {
   posix_spawnattr_t attributes;
   posix_spawn_file_actions_t actions;
-  explicit SpawnSetup(const Pipe& output) {
+  SpawnSetup(const Pipe& output, const CaptureSetup& setup) {
     posix_spawnattr_init(&attributes);
     sigset_t none;
     sigemptyset(&none);
@@ -50,6 +51,9 @@ struct SpawnSetup {
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
     posix_spawn_file_actions_adddup2(&actions, output.write, STDOUT_FILENO);
+    if (setup.withErrors) posix_spawn_file_actions_adddup2(&actions, output.write, STDERR_FILENO);
+    if (!setup.workingDirectory.empty())
+      posix_spawn_file_actions_addchdir_np(&actions, setup.workingDirectory.c_str());
     posix_spawn_file_actions_addclose(&actions, output.read);
     posix_spawn_file_actions_addclose(&actions, output.write);
   }
@@ -108,9 +112,23 @@ CapturedRun::End readWhileRunning(pid_t pid, int fd, size_t limit,
   }
 }
 
+// The environment without the variables named.
+std::vector<char*> environmentWithout(const std::vector<std::string>& names) {
+  std::vector<char*> kept;
+  for (char** entry = environ; *entry != nullptr; ++entry) {
+    bool drop = false;
+    for (const std::string& name : names)
+      drop = drop || (std::strncmp(*entry, name.c_str(), name.size()) == 0 && (*entry)[name.size()] == '=');
+    if (!drop) kept.push_back(*entry);
+  }
+  kept.push_back(nullptr);
+  return kept;
+}
+
 }  // namespace
 
-CapturedRun runCapturingOutput(const std::vector<std::string>& arguments, size_t outputLimit, int timeoutMs) {
+CapturedRun runCapturingOutput(const std::vector<std::string>& arguments, size_t outputLimit, int timeoutMs,
+                               const CaptureSetup& setup) {
   CapturedRun run;
   const char* searchPath = std::getenv("PATH");
   const std::string program =
@@ -132,11 +150,13 @@ CapturedRun runCapturingOutput(const std::vector<std::string>& arguments, size_t
   for (const std::string& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
   argv.push_back(nullptr);
 
+  std::vector<char*> environment = environmentWithout(setup.withoutEnvironment);
+
   pid_t pid = -1;
   {
-    SpawnSetup setup(output);
-    const int result =
-        posix_spawn(&pid, program.c_str(), &setup.actions, &setup.attributes, argv.data(), environ);
+    SpawnSetup spawn(output, setup);
+    const int result = posix_spawn(&pid, program.c_str(), &spawn.actions, &spawn.attributes, argv.data(),
+                                   environment.data());
     if (result != 0) {
       run.status = result;
       return run;
