@@ -103,13 +103,10 @@ void runTool(const std::string& tool, const std::vector<std::string>& arguments,
       failure = errorMessage(Msg::kLintToolCannotStart, std::strerror(run.status));
       break;
   }
-  bool errorSeen = false;
-  for (LintFinding& finding : findings) {
-    errorSeen = errorSeen || finding.error;
-    report.findings.push_back(std::move(finding));
-  }
+  for (LintFinding& finding : findings) report.findings.push_back(std::move(finding));
+  // A rejection always ends with a line of its own that says so, whatever the tool printed before.
   if (failure.empty()) return;
-  if (!errorSeen) report.findings.push_back({tool, "", 0, failure, true});
+  report.findings.push_back({tool, "", 0, failure, true});
   if (report.rejectedBy.empty() || report.rejectedBy.back() != tool) report.rejectedBy.push_back(tool);
 }
 
@@ -204,7 +201,7 @@ void lintVerilog(const std::string& tool, const std::string& path, const SubModu
     arguments = {"iverilog", "-Wall", "-Wno-portbind", "-o", scratch.path() + "lint.vvp", "-s", top};
     if (!modules.modelDirectory.empty()) arguments.insert(arguments.end(), {"-y", modules.modelDirectory});
   } else if (tool == "verilator") {
-    arguments = {"verilator", "--lint-only", "-Wno-fatal", "-Wno-PINMISSING", "--top-module", top};
+    arguments = {"verilator", "--lint-only", "-Wno-PINMISSING", "--top-module", top};
     if (!modules.modelDirectory.empty()) arguments.insert(arguments.end(), {"-y", modules.modelDirectory});
   } else {
     // Yosys reads the files first, then the script; the models' folder is linked into the scratch
