@@ -258,6 +258,7 @@ def failure_kinds(result):
     kinds = set()
     for what, v in list(result["tools"].items()) + [("sim", result["sim"] or "")]:
         if v and v not in ("ok", "agree", "written as THDL"):
+            v = v.replace("n't", "nt")
             v = re.sub(r"v\d+\.(vhd|v):\d+(:\d+)?:?", "", v)
             v = re.sub(r"vector \d+.*", "", v)
             v = re.sub(r"``[^`']*''|`[^`']*'|'[^']*'|\"[^\"]*\"|\\\S+", "NAME", v)
