@@ -221,10 +221,11 @@ def write(folder, name, text):
 
 
 def first_error(out):
-    lines = [line.strip() for line in out.splitlines() if line.strip()]
-    for line in lines:
-        if re.search(r"error|ERROR|%Error|can't|cannot", line):
-            return line[:200]
+    lines = [line.strip() for line in out.splitlines() if line.strip() and "Exiting due to" not in line]
+    for pattern in (r"error|ERROR|can't|cannot", r"%Warning|[Ww]arning"):
+        for line in lines:
+            if re.search(pattern, line):
+                return line[:200]
     return (lines[0] if lines else "(no output)")[:200]
 
 
@@ -330,7 +331,14 @@ def reduce(soak, result, seed, kinds):
 
 
 def warning_kind(text):
-    """The kind of a plovix warning: its text with names, numbers and quoted parts left out."""
+    """The construct a plovix warning names ("FILE: CONSTRUCT at PLACE (line N ...); WHAT VALID TEXT DOES"),
+    with what valid text does about it; the text itself, names and numbers left out, when it has another form."""
+    match = re.match(r"[^:]*: (.*?) at (?:port|instance|the name) .*?\); (.*)", text)
+    if match:
+        remedy = match.group(2)
+        remedy = ("valid text" if "writes valid" in remedy else "not covered yet" if "not cover" in remedy
+                  else "no valid text" if "no valid" in remedy else remedy[:40])
+        return "%s [%s]" % (match.group(1), remedy)
     kind = re.sub(r'"[^"]*"|\'[^\']*\'|`[^`]*`', "…", text)
     kind = re.sub(r"\b\w*\d\w*\b", "#", kind)
     return kind.split(";")[0][:110]
