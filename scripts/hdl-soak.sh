@@ -7,7 +7,9 @@
 #   PLOVIX_SOAK_COMPARE=path  compare the default text of every description with another plovix instead
 #   PLOVIX_SOAK_REDUCE=1    add the smallest description (line by line) of each kind of failure
 #   PLOVIX_SOAK_SHOW=1      print the description of every failure; PLOVIX_SOAK_KEEP=1 keeps the work files
-# The exit status is 1 when a description fails with valid text (the default text has known limits).
+#   PLOVIX_SOAK_GATE=explained  (default) exit 1 on a failure that no plovix warning explains (with valid text:
+#                           a warning that valid text does not cover the construct or cannot express it)
+#   PLOVIX_SOAK_GATE=agreement  exit 1 only when plovix fails or two accepted versions disagree
 set -euo pipefail
 if [ $# -ne 2 ]; then
   echo "usage: $0 N SEED" >&2
