@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cctype>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -30,6 +31,14 @@ bool isVhdl(const std::string& path) {
 
 bool isVerilog(const std::string& path) {
   return equalsIgnoringCase(splitPath(path, PathPart::kExtension), ".v");
+}
+
+// A Verilog simple identifier: a letter or "_", then letters, digits, "_" and "$".
+bool isIdentifier(const std::string& name) {
+  if (name.empty() || !(std::isalpha(static_cast<unsigned char>(name[0])) || name[0] == '_')) return false;
+  for (char c : name)
+    if (!(std::isalnum(static_cast<unsigned char>(c)) || c == '_' || c == '$')) return false;
+  return true;
 }
 
 // A scratch directory removed with everything in it when it goes.
@@ -204,12 +213,15 @@ void lintVerilog(const std::string& tool, const std::string& path, const SubModu
     arguments = {"verilator", "--lint-only", "-Wno-PINMISSING", "--top-module", top};
     if (!modules.modelDirectory.empty()) arguments.insert(arguments.end(), {"-y", modules.modelDirectory});
   } else {
-    // Yosys reads the files first, then the script; the models' folder is linked into the scratch
-    // directory so that no path of the user's is read as script text.
-    std::string script = "hierarchy -check -top " + top + "; proc; flatten; check";
-    if (!modules.modelDirectory.empty() &&
-        symlink(modules.modelDirectory.c_str(), (scratch.path() + "models").c_str()) == 0)
-      script = "hierarchy -check -libdir models -top " + top + "; proc; flatten; check";
+    // Yosys reads the files first, then the script. No text of the user's enters the script: the models'
+    // folder is linked into the scratch directory, and a file name that is not an identifier (and so
+    // cannot name the top module) leaves the top module for Yosys to find.
+    const bool libdir = !modules.modelDirectory.empty() &&
+                        symlink(modules.modelDirectory.c_str(), (scratch.path() + "models").c_str()) == 0;
+    const bool named = isIdentifier(top);
+    const std::string script =
+        formatText("hierarchy -check%s %s%s; proc; flatten; check", libdir ? " -libdir models" : "",
+                   named ? "-top " : "-auto-top", named ? top.c_str() : "");
     arguments = {"yosys", "-q", "-w", "Complex async reset", "-p", script};
   }
   arguments.insert(arguments.end(), files.begin(), files.end());
