@@ -368,7 +368,8 @@ def report(results, soak):
     print("  failed without a plovix warning that explains it: %d%s" % (
         len(unexplained), " (d%s)" % ", d".join(map(str, unexplained[:20])) if unexplained else ""))
     broken = [r["index"] for r in results if any(t.startswith("plovix-") for t in r["tools"])
-              or (r["sim"] or "").startswith(("DISAGREE", "UNDEFINED"))]
+              or (all(v == "ok" for v in r["tools"].values()) and (r["sim"] or "").startswith(("DISAGREE",
+                                                                                                 "UNDEFINED")))]
     print("  plovix failed, or the tools accepted both versions and they disagree: %d%s" % (
         len(broken), " (d%s)" % ", d".join(map(str, broken[:20])) if broken else ""))
     kinds = {}
