@@ -165,9 +165,9 @@ def _verilog_ref(port, cell):
 
 
 def verilog_model(component, parameters):
-    """A module of the component's ports (names as the instance gives them) and the parameters set on it."""
+    """A module named as the description names it, with its ports and the parameters set on it."""
     inputs, outputs = _gather(component.ports, "IN"), _gather(component.ports, "OUT")
-    lines = ["module %s (%s);" % (_verilog_name(component.name.lower()),
+    lines = ["module %s (%s);" % (_verilog_name(component.name),
                                   ", ".join(_verilog_name(p.name) for p in component.ports))]
     for name in sorted(parameters):
         lines.append("\tparameter %s = 0;" % name)

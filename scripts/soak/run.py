@@ -121,7 +121,7 @@ class Soak:
         for c in components:
             wanted = set()
             for inst, module in instances.items():
-                if module == c.name.lower():
+                if module.lower() == c.name.lower():
                     wanted |= params.get(inst, set())
             stubs += models.verilog_model(c, wanted)
         write(folder, "stubs.v", stubs)
