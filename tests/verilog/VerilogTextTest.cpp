@@ -1,4 +1,5 @@
-// The Verilog writer's texts: the expected files of the corpus, the value rules, and the files it writes.
+// The Verilog writer's value rules and the files it writes; whole texts are golden files
+// (tests/corpus/GeneratedTextTest.cpp).
 #include <gtest/gtest.h>
 
 #include <string>
@@ -14,32 +15,6 @@ namespace {
 
 using testing::RecordingInterface;
 using testing::TempDir;
-
-std::string expectedText(const std::string& file) {
-  return TempDir::readFile(std::string(PLOVIX_TEST_DATA_DIR) + "/" + file);
-}
-
-class CorpusTexts : public ::testing::TestWithParam<const char*> {};
-
-TEST_P(CorpusTexts, DesignBlackBoxAndTemplateMatchTheExpectedFiles) {
-  const std::string name = GetParam();
-  TempDir work;
-  RecordingInterface ui;
-  CnxDescription description;
-  ASSERT_TRUE(testing::readCorpusCase(name, work, ui, description)) << work.read(name + ".cnxerr");
-  const Netlist netlist = buildNetlist(description, testing::kCorpusSignature);
-  const VerilogFileWriter writer(ui, work.path(name), testing::kCorpusSignature, description, netlist);
-  const std::string design = writer.buildDesignText();
-  EXPECT_EQ(design, expectedText(name + ".v"));
-  EXPECT_EQ(writer.buildBlackBoxText(), expectedText(name + "_bb.v"));
-  EXPECT_EQ(writer.buildInstanceText(), expectedText(name + "_inst.v"));
-  EXPECT_EQ(writer.buildCompanionText(), "");
-  // The text depends on its inputs only.
-  EXPECT_EQ(writer.buildDesignText(), design);
-  EXPECT_TRUE(ui.boxes.empty());
-}
-
-INSTANTIATE_TEST_SUITE_P(Corpus, CorpusTexts, ::testing::ValuesIn(testing::kCorpusCases));
 
 TEST(VerilogValues, ConstantsTakeTheWidthOfTheirWire) {
   TextPool texts;
@@ -71,47 +46,6 @@ TEST(VerilogValues, ParametersDirectionsAndWidths) {
   EXPECT_EQ(verilogWidthNumber(Bound::fromText("16", texts)), 16);
   EXPECT_EQ(verilogWidthNumber(Bound::fromText("-016", texts)), -16);
   EXPECT_EQ(verilogWidthNumber(Bound::fromText("8x", texts)), 0);
-}
-
-// Two instances: parameters and constants go to the instance they target or, without a target, to every one;
-// names are lower-cased where they are printed, except the module and instance names.
-TEST(VerilogInstances, SettingsFollowTheirTargets) {
-  TempDir work;
-  RecordingInterface ui;
-  CnxDescription description;
-  ASSERT_TRUE(testing::readCnxText("Mixed", R"(GENERATION: STANDARD
-VERSION: WM1.0
-MODULE: Pvx_Counter Low
-MODULE: pvx_counter high
-PARAMETER: Width NUMERIC 8
-PARAMETER: Only STRING x high
-CONSTANT: Start NUMERIC 3 Low
-CONSTANT: Name STRING "n"
-USED_PORT: Clock 0 0 0 0 INPUT NODEFVAL
-USED_PORT: Q 0 0 4 0 OUTPUT NODEFVAL
-CONNECT: Low@clock 0 0 0 0 Clock 0 0 0 0
-CONNECT: high@clock 0 0 0 0 Clock 0 0 0 0
-CONNECT: Q 0 0 4 0 Low@q 0 0 4 0
-)",
-                                   work, ui, description));
-  const Netlist netlist = buildNetlist(description, "pvx_counter");
-  const VerilogFileWriter writer(ui, work.path("Mixed"), "pvx_counter", description, netlist);
-  const std::string text = writer.buildDesignText();
-  EXPECT_NE(text.find("module Mixed (\n\tclock,\n\tq);\n\n\tinput\t  clock;\n\toutput\t[3:0]  q;\n\n"
-                      "\tparameter\n\t\tWidth = 8,\n\t\tOnly = \"x\";\n\n"),
-            std::string::npos)
-      << text;
-  EXPECT_NE(text.find("\twire [3:0] q = sub_wire0[3:0];\n"), std::string::npos) << text;
-  EXPECT_NE(text.find("\n\tpvx_counter\tLow_component (\n\t\t\t\t.clock (clock),\n\t\t\t\t.q (sub_wire0));\n"
-                      "\tdefparam\n\t\tLow_component.width = width,\n\t\tLow_component.start = 3,\n"
-                      "\t\tLow_component.name = \"n\";\n\n"),
-            std::string::npos)
-      << text;
-  EXPECT_NE(text.find("\n\tpvx_counter\thigh_component (\n\t\t\t\t.clock (clock));\n\tdefparam\n"
-                      "\t\thigh_component.width = width,\n\t\thigh_component.only = only,\n"
-                      "\t\thigh_component.name = \"n\";\n\n"),
-            std::string::npos)
-      << text;
 }
 
 TEST(VerilogFiles, BlackBoxAndTemplateAreWrittenBesideTheDesign) {

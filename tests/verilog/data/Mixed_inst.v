@@ -1,0 +1,4 @@
+Mixed	Mixed_inst (
+	.clock ( clock_sig ),
+	.q ( q_sig )
+	);

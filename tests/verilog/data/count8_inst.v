@@ -1,0 +1,7 @@
+count8	count8_inst (
+	.clock ( clock_sig ),
+	.cnt_en ( cnt_en_sig ),
+	.data ( data_sig ),
+	.q ( q_sig ),
+	.cout ( cout_sig )
+	);

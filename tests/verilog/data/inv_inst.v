@@ -1,0 +1,4 @@
+inv	inv_inst (
+	.a ( a_sig ),
+	.b ( b_sig )
+	);

@@ -1,0 +1,4 @@
+pass	pass_inst (
+	.s ( s_sig ),
+	.y ( y_sig )
+	);

@@ -1,0 +1,4 @@
+inv_inst : inv PORT MAP(
+		a	 => a_sig,
+		b	 => b_sig
+	);

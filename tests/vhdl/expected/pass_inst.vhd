@@ -1,0 +1,4 @@
+pass_inst : pass PORT MAP(
+		s	 => s_sig,
+		y	 => y_sig
+	);
