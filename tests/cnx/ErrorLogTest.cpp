@@ -1,89 +1,50 @@
-// The .cnxerr log, compared whole: faults in every statement kind, in the first two lines and at the end of
+// The .cnxerr log: faults in every statement kind (golden files), in the first two lines and at the end of
 // the file, and what happens around the log file itself.
+#include <algorithm>
+#include <filesystem>
+
 #include "CnxFixture.h"
+#include "Golden.h"
+#include "base/Format.h"
 
 namespace plovix::testing {
 namespace {
 
 using ErrorLogTest = CnxFixture;
 
-TEST_F(ErrorLogTest, FaultsInEveryStatementKindAreLoggedInFileOrderAndTheLinesDropped) {
-  const std::string text = kCnxHead +
-                           "// a comment line\n"
-                           "MODULE: lpm_counter\n"
-                           "LIBRARY: lpm\n"
-                           "LIBRARY: 9lpm lpm.components\n"
-                           "MODULE:\n"
-                           "MODULE: m inst extra more\n"
-                           "PARAMETER: 1width NUMERIC 8\n"
-                           "PARAMETER: width numeric 8\n"
-                           "PARAMETER: width NUMERIC 8 4target\n"
-                           "CONSTANT: c STRING \"a b\" t extra tokens\n"
-                           "PRIVATE: p\n"
-                           "PRIVATE: p STRING v t\n"
-                           "USED_PORT:\n"
-                           "USED_PORT: q 8 0 0 OUTPUT NODEFVAL\n"
-                           "USED_PORT: q 8 0 0 0 OUTPUT\n"
-                           "USED_PORT: q 8 0 0 0 OUTPUT NODEFVAL tag more text\n"
-                           "CONNECT: q 8 0 0\n"
-                           "CONNECT: q 8 0 0 0\n"
-                           "CONNECT: q 8 0 0 0 GND 1 0 0\n"
-                           "CONNECT: q 8 0 0 0 GND 1 0 0 0 x\n"
-                           "   FOO: bar  \n"
-                           "SYMBOL: BOGUS 1 2\n"
-                           "PARAMETER: width NUMERIC 8\n";
-  EXPECT_FALSE(read(text));
-  EXPECT_EQ(log(), banner() + entry(5, "", Msg::kCnxNoIdentifier) +
-                       entry(6, "lpm.components", Msg::kCnxIdentifierStart) +
-                       entry(7, "", Msg::kCnxNoIdentifier) + entry(8, "more", Msg::kCnxExtraTokens) +
-                       entry(9, "NUMERIC 8", Msg::kCnxIdentifierStart) + entry(10, "8", Msg::kCnxNoType) +
-                       entry(11, "", Msg::kCnxIdentifierStart) + entry(12, "tokens", Msg::kCnxExtraTokens) +
-                       entry(13, "", Msg::kCnxNoType) + entry(14, "", Msg::kCnxExtraTokens) +
-                       entry(15, "", Msg::kCnxNoIdentifier) + entry(16, "", Msg::kCnxNoPortType) +
-                       entry(17, "", Msg::kCnxNoValue) + entry(18, "text", Msg::kCnxExtraTokens) +
-                       entry(19, "", Msg::kCnxNoValue) + entry(20, "", Msg::kCnxNoIdentifier) +
-                       entry(21, "", Msg::kCnxNoValue) + entry(22, "", Msg::kCnxExtraTokens) +
-                       entry(23, "bar", Msg::kCnxUnknownStatement) +
-                       entry(24, "1 2", Msg::kCnxUnknownSymbolElement));
-  EXPECT_EQ(ui.boxes, std::vector<std::string>{error33()});
-  // Only the accepted lines left records.
-  EXPECT_EQ(description.modules.size(), 1u);
-  EXPECT_TRUE(description.libraries.empty());
-  EXPECT_EQ(description.parameters.size(), 1u);
-  EXPECT_TRUE(description.constants.empty());
-  EXPECT_TRUE(description.privates.empty());
-  EXPECT_TRUE(description.outputPorts.empty());
-  EXPECT_TRUE(description.connectionMap.empty());
-  EXPECT_TRUE(description.symbolElements.empty());
+namespace fs = std::filesystem;
+
+const std::string kErrorSamples = PLOVIX_TEST_DATA_DIR "/errors/";
+
+std::vector<std::string> errorSamples() {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(kErrorSamples)) {
+    if (entry.path().extension() == ".cnx") names.push_back(entry.path().stem().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
 }
 
-TEST_F(ErrorLogTest, FaultsInSymbolLinesAreLoggedWithTheirOwnMessages) {
-  const std::string text = kCnxHead +
-                           "MODULE: m\n"
-                           "SYMBOL:\n"
-                           "SYMBOL: LINE 0 0 10 x\n"
-                           "SYMBOL: LINE 0 0 10 10 solid\n"
-                           "SYMBOL: RECT 0 0 10 10 SOLID FAT\n"
-                           "SYMBOL: ARC 1 2 3 4 5 6\n"
-                           "SYMBOL: CIRCLE 1 2 3 YES\n"
-                           "SYMBOL: TEXT t 1 2 DIAGONAL font\n"
-                           "SYMBOL: PINSTUB 0 0 a 10 10 a\n"
-                           "SYMBOL: PARAMETER\n"
-                           "SYMBOL: BOX 100 100 5\n"
-                           "SYMBOL: LINE 0 0 10 10 SOLID THIN extra words\n"
-                           "SYMBOL: CIRCLE 1 2 3 TRUE\n";
-  EXPECT_FALSE(read(text));
-  EXPECT_EQ(log(), banner() + entry(4, "", Msg::kCnxUnknownSymbolElement) + entry(5, "", Msg::kCnxNoNumber) +
-                       entry(6, "", Msg::kCnxNoLineStyle) + entry(7, "", Msg::kCnxNoLineWidth) +
-                       entry(8, "", Msg::kCnxNoNumber) + entry(9, "", Msg::kCnxNoLogical) +
-                       entry(10, "font", Msg::kCnxNoOrientation) + entry(11, "10 10 a", Msg::kCnxNoStubType) +
-                       entry(13, "", Msg::kCnxNoNumber) + entry(14, "words", Msg::kCnxExtraTokens));
-  // The PARAMETER element without its text is dropped silently; the dropped BOX still asks for a drawn
-  // symbol.
-  EXPECT_FALSE(description.defaultSymbolBox);
-  ASSERT_EQ(description.symbolElements.size(), 1u);
-  EXPECT_EQ(description.symbolElements[0].kind, SymbolKind::kCircle);
+class ErrorLogSample : public CnxFixture, public ::testing::WithParamInterface<std::string> {};
+
+// Faulty lines of every kind (data/errors/*.cnx): the log (golden *.cnxerr, with its entries in file order),
+// one box, and records left by the accepted lines only (the counts after the log, golden too).
+TEST_P(ErrorLogSample, LogsEveryFaultAndDropsItsLine) {
+  EXPECT_FALSE(read(TempDir::readFile(kErrorSamples + GetParam() + ".cnx")));
+  EXPECT_EQ(ui.boxes, std::vector<std::string>{error33()});
+  const CnxDescription& d = description;
+  const std::string records = formatText(
+      "-- records: %d modules, %d libraries, %d parameters, %d constants, %d privates, %d ports, "
+      "%d connection ends, %d symbol elements, %s symbol\n",
+      int(d.modules.size()), int(d.libraries.size()), int(d.parameters.size()), int(d.constants.size()),
+      int(d.privates.size()), int(d.inputPorts.size() + d.outputPorts.size() + d.mainModulePorts.size()),
+      int(d.connectionMap.endCount()), int(d.symbolElements.size()),
+      d.defaultSymbolBox ? "automatic" : "drawn");
+  expectGolden(log() + records, kErrorSamples + GetParam() + ".cnxerr");
 }
+
+INSTANTIATE_TEST_SUITE_P(Samples, ErrorLogSample, ::testing::ValuesIn(errorSamples()),
+                         [](const auto& info) { return info.param; });
 
 TEST_F(ErrorLogTest, FirstTwoLinesMustBeTheGenerationAndVersionLines) {
   struct Case {
