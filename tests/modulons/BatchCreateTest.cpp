@@ -81,7 +81,7 @@ TEST_P(BatchCreateTest, CreatesAndEditsTheVariationAndTheToolsAcceptIt) {
   std::filesystem::create_directories(dir.path("out"));
   const std::string name = "v_" + language;
   const std::string design = "out/" + name + extensionFor(language);
-  const CommandResult run = plovixBatch(dir, c.modulon, language, c.pluginArgs, design);
+  const ToolRun run = plovixBatch(dir, c.modulon, language, c.pluginArgs, design);
   ASSERT_EQ(run.exitCode, 0) << run.output;
   // No box, and none of the forms the writers warn about.
   EXPECT_FALSE(hasLineStarting(run.output, "report:")) << run.output;
@@ -95,7 +95,7 @@ TEST_P(BatchCreateTest, CreatesAndEditsTheVariationAndTheToolsAcceptIt) {
 
   // An edit run takes the modulon from the file, changes one value and keeps the others.
   const std::string before = dir.read(design);
-  const CommandResult edit = plovixBatch(dir, "", "", c.edit, design);
+  const ToolRun edit = plovixBatch(dir, "", "", c.edit, design);
   ASSERT_EQ(edit.exitCode, 0) << edit.output;
   EXPECT_FALSE(hasLineStarting(edit.output, "warning:")) << edit.output;
   const std::string after = dir.read(design);
@@ -112,17 +112,17 @@ TEST_P(BatchCreateTest, CreatesAndEditsTheVariationAndTheToolsAcceptIt) {
   if (language == "verilog") {
     if (!haveProgram("iverilog") || !haveProgram("verilator") || !haveProgram("yosys"))
       GTEST_SKIP() << "Icarus Verilog, Verilator or Yosys missing";
-    const CommandResult icarus = icarusCompile(dir, {design}, name);
+    const ToolRun icarus = icarusCompile(dir, {design}, name);
     EXPECT_EQ(icarus.exitCode, 0) << icarus.output;
     EXPECT_EQ(icarus.output, "");
-    const CommandResult verilator = verilatorLint(dir, {design}, name);
+    const ToolRun verilator = verilatorLint(dir, {design}, name);
     EXPECT_EQ(verilator.exitCode, 0) << verilator.output;
-    const CommandResult yosys = yosysCheck(dir, {design}, name);
+    const ToolRun yosys = yosysCheck(dir, {design}, name);
     EXPECT_EQ(yosys.exitCode, 0) << yosys.output;
     EXPECT_EQ(yosys.output.find("Warning"), std::string::npos) << yosys.output;
   } else if (language == "vhdl") {
     if (!haveProgram("ghdl")) GTEST_SKIP() << "GHDL missing";
-    const CommandResult ghdl = ghdlElaborate(dir, {design}, name);
+    const ToolRun ghdl = ghdlElaborate(dir, {design}, name);
     EXPECT_EQ(ghdl.exitCode, 0) << ghdl.output;
   }
 }

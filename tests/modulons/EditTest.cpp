@@ -35,7 +35,7 @@ const char* const kCounterArgs = "LPM_WIDTH=8 LPM_DIRECTION=DOWN ACLR=YES COUT=Y
 TEST(EditTest, NewValuesRegenerateAndTheOthersStay) {
   TempDir dir;
   ASSERT_EQ(plovixBatch(dir, "lpm_counter", "vhdl", kCounterArgs, "count.vhd").exitCode, 0);
-  const CommandResult edit = plovixBatch(dir, "", "", "LPM_WIDTH=12 lpm_modulus=3000", "count.vhd");
+  const ToolRun edit = plovixBatch(dir, "", "", "LPM_WIDTH=12 lpm_modulus=3000", "count.vhd");
   ASSERT_EQ(edit.exitCode, 0) << edit.output;
   const std::string design = dir.read("count.vhd");
   EXPECT_NE(design.find("q\t\t: OUT STD_LOGIC_VECTOR (11 DOWNTO 0)"), std::string::npos) << design;
@@ -57,21 +57,20 @@ TEST(EditTest, RefusedValuesLeaveEveryFileUnchanged) {
   const auto before = snapshot(dir);
   for (const char* args :
        {"LPM_WIDTH=99", "LPM_DIRECTION=SIDEWAYS", "WIDTH=4", "LPM_WIDTH=2 LPM_MODULUS=5", "8"}) {
-    const CommandResult edit = plovixBatch(dir, "", "", args, "count.v");
+    const ToolRun edit = plovixBatch(dir, "", "", args, "count.v");
     EXPECT_EQ(edit.exitCode, 1) << args << "\n" << edit.output;
     std::filesystem::remove(
         dir.path("count.cnx"));  // the manager's prepared description stays after a cancel
     EXPECT_EQ(snapshot(dir), before) << args;
   }
-  const CommandResult bad = plovixBatch(dir, "", "", "LPM_DIRECTION=SIDEWAYS", "count.v");
+  const ToolRun bad = plovixBatch(dir, "", "", "LPM_DIRECTION=SIDEWAYS", "count.v");
   EXPECT_NE(
       bad.output.find("\"SIDEWAYS\" is not allowed for LPM_DIRECTION; allowed values: UP, DOWN, UNUSED"),
       std::string::npos)
       << bad.output;
 
   // A new variation refused the same way creates nothing.
-  const CommandResult create =
-      plovixBatch(dir, "lpm_decode", "verilog", "LPM_WIDTH=2 LPM_DECODES=5", "dec.v");
+  const ToolRun create = plovixBatch(dir, "lpm_decode", "verilog", "LPM_WIDTH=2 LPM_DECODES=5", "dec.v");
   EXPECT_EQ(create.exitCode, 1);
   EXPECT_NE(create.output.find("LPM_DECODES=5 does not fit LPM_WIDTH=2"), std::string::npos) << create.output;
   EXPECT_FALSE(std::filesystem::exists(dir.path("dec.v")));
@@ -79,8 +78,8 @@ TEST(EditTest, RefusedValuesLeaveEveryFileUnchanged) {
 
 // Runs plovix with a terminal as its standard input, ends the input at the plug-in's first prompt, and gives
 // the exit code and everything shown on the terminal.
-CommandResult cancelAtPrompt(const TempDir& dir, const std::string& designFile) {
-  CommandResult result;
+ToolRun cancelAtPrompt(const TempDir& dir, const std::string& designFile) {
+  ToolRun result;
   int master = -1;
   const pid_t child = forkpty(&master, nullptr, nullptr, nullptr);
   if (child < 0) return result;
@@ -129,7 +128,7 @@ TEST(EditTest, PluginCancelledAtItsPromptLeavesEveryFileUnchanged) {
   TempDir dir;
   ASSERT_EQ(plovixBatch(dir, "lpm_counter", "verilog", kCounterArgs, "count.v").exitCode, 0);
   const auto before = snapshot(dir);
-  const CommandResult run = cancelAtPrompt(dir, "count.v");
+  const ToolRun run = cancelAtPrompt(dir, "count.v");
   EXPECT_NE(run.output.find("LPM_WIDTH: Width of the count output q (a whole number from 1 to 32) [8]: "),
             std::string::npos)
       << run.output;
@@ -141,7 +140,7 @@ TEST(EditTest, PluginCancelledAtItsPromptLeavesEveryFileUnchanged) {
 
 TEST(EditTest, SymbolOnlyConstantWritesTheDrawnSymbolAlone) {
   TempDir dir;
-  const CommandResult run =
+  const ToolRun run =
       plovixBatch(dir, "lpm_constant", "verilog", "LPM_WIDTH=4 LPM_CVALUE=9 SYMBOL_ONLY=YES", "k9.v");
   ASSERT_EQ(run.exitCode, 0) << run.output;
   EXPECT_TRUE(std::filesystem::exists(dir.path("k9.sym")));

@@ -38,23 +38,21 @@ std::string ghdlLibraryCommand(const std::string& workDir) {
   return std::string(kGhdl) + " --work=lpm --workdir=" + quoted(workDir) + words(modelFiles("vhdl"));
 }
 
-CommandResult icarusCompile(const TempDir& dir, const std::vector<std::string>& files,
-                            const std::string& top) {
+ToolRun icarusCompile(const TempDir& dir, const std::vector<std::string>& files, const std::string& top) {
   return runIn(dir.dir(), "iverilog -Wall -Wno-portbind -o " + quoted(top + ".vvp") + " -s " + quoted(top) +
                               " -y " + quoted(verilogModels()) + words(files));
 }
 
-CommandResult icarusRun(const TempDir& dir, const std::string& top, const std::string& plusargs) {
+ToolRun icarusRun(const TempDir& dir, const std::string& top, const std::string& plusargs) {
   return runIn(dir.dir(), "vvp -n " + quoted(top + ".vvp") + " " + plusargs);
 }
 
-CommandResult verilatorLint(const TempDir& dir, const std::vector<std::string>& files,
-                            const std::string& top) {
+ToolRun verilatorLint(const TempDir& dir, const std::vector<std::string>& files, const std::string& top) {
   return runIn(dir.dir(), "verilator --lint-only -Wno-PINMISSING --top-module " + quoted(top) + " -y " +
                               quoted(verilogModels()) + words(files));
 }
 
-CommandResult yosysCheck(const TempDir& dir, const std::vector<std::string>& files, const std::string& top) {
+ToolRun yosysCheck(const TempDir& dir, const std::vector<std::string>& files, const std::string& top) {
   std::string script;
   for (const std::string& file : files) script += "read_verilog " + file + "; ";
   script += "hierarchy -check -libdir " + verilogModels() + " -top " + top + "; proc; flatten; check -assert";
@@ -64,8 +62,7 @@ CommandResult yosysCheck(const TempDir& dir, const std::vector<std::string>& fil
                "yosys -q -w " + testing::quoted("Complex async reset") + " -p " + testing::quoted(script));
 }
 
-CommandResult ghdlElaborate(const TempDir& dir, const std::vector<std::string>& files,
-                            const std::string& top) {
+ToolRun ghdlElaborate(const TempDir& dir, const std::vector<std::string>& files, const std::string& top) {
   std::vector<std::string> entities = modelFiles("vhdl");
   entities.erase(entities.begin());
   const std::string lib = " --workdir=ghdl -Pghdl";
@@ -74,7 +71,7 @@ CommandResult ghdlElaborate(const TempDir& dir, const std::vector<std::string>& 
                               " && ghdl -e --std=08 -Wno-binding" + lib + " " + quoted(top));
 }
 
-CommandResult ghdlRun(const TempDir& dir, const std::string& top, const std::string& generics) {
+ToolRun ghdlRun(const TempDir& dir, const std::string& top, const std::string& generics) {
   return runIn(dir.dir(),
                "ghdl -r --std=08 --workdir=ghdl -Pghdl " + quoted(top) + " --stop-time=100us " + generics);
 }

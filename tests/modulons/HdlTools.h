@@ -20,25 +20,22 @@ std::string ghdlLibraryCommand(const std::string& workDir);
 
 // Icarus Verilog: compiles the files with the models as library into dir/<top>.vvp, with every warning but
 // the ones about instance ports left open (the models' optional inputs); runs it with plusargs.
-CommandResult icarusCompile(const TempDir& dir, const std::vector<std::string>& files,
-                            const std::string& top);
-CommandResult icarusRun(const TempDir& dir, const std::string& top, const std::string& plusargs = "");
+ToolRun icarusCompile(const TempDir& dir, const std::vector<std::string>& files, const std::string& top);
+ToolRun icarusRun(const TempDir& dir, const std::string& top, const std::string& plusargs = "");
 
 // Verilator: lints the files with the models as library; missing pins of the models' optional ports are
 // meant.
-CommandResult verilatorLint(const TempDir& dir, const std::vector<std::string>& files,
-                            const std::string& top);
+ToolRun verilatorLint(const TempDir& dir, const std::vector<std::string>& files, const std::string& top);
 
 // Yosys: reads the files, takes the models the design needs from the library, elaborates top with its
 // parameters and checks that every wire has a driver (so that the inputs a variation leaves unconnected took
 // their defaults).
-CommandResult yosysCheck(const TempDir& dir, const std::vector<std::string>& files, const std::string& top);
+ToolRun yosysCheck(const TempDir& dir, const std::vector<std::string>& files, const std::string& top);
 
 // GHDL (VHDL-2008): the models go into library lpm (with package lpm_components) and, for default binding,
 // into work; then the files are analysed and top elaborated. Unbound optional ports take their defaults.
-CommandResult ghdlElaborate(const TempDir& dir, const std::vector<std::string>& files,
-                            const std::string& top);
+ToolRun ghdlElaborate(const TempDir& dir, const std::vector<std::string>& files, const std::string& top);
 // Runs top; generics are "-gNAME=VALUE" words.
-CommandResult ghdlRun(const TempDir& dir, const std::string& top, const std::string& generics = "");
+ToolRun ghdlRun(const TempDir& dir, const std::string& top, const std::string& generics = "");
 
 }  // namespace plovix::testing

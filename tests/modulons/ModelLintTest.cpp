@@ -35,13 +35,13 @@ TEST_P(ModelLintTest, ReadsEveryModelWithoutAWord) {
   if (!haveProgram(tool.program)) GTEST_SKIP() << tool.program << " missing";
   TempDir dir;
   if (tool.readModel == nullptr) {
-    const CommandResult read = runIn(dir.dir(), ghdlLibraryCommand(dir.dir()));
+    const ToolRun read = runIn(dir.dir(), ghdlLibraryCommand(dir.dir()));
     EXPECT_EQ(read.exitCode, 0) << read.output;
     EXPECT_EQ(read.output, "");
     return;
   }
   for (const std::string& model : modelFiles("verilog")) {
-    const CommandResult read = runIn(dir.dir(), tool.readModel(model));
+    const ToolRun read = runIn(dir.dir(), tool.readModel(model));
     EXPECT_EQ(read.exitCode, 0) << model << "\n" << read.output;
     EXPECT_EQ(read.output, "") << model;
   }

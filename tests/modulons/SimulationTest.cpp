@@ -107,7 +107,7 @@ const Bench kBenches[] = {
 class SimulationTest : public ::testing::TestWithParam<std::tuple<Bench, bool>> {};
 
 // The bench prints PASS when every checked cycle matched and FAIL lines for the ones that did not.
-void expectPassed(const CommandResult& run) {
+void expectPassed(const ToolRun& run) {
   EXPECT_NE(run.output.find("PASS"), std::string::npos) << run.output;
   EXPECT_EQ(run.output.find("FAIL"), std::string::npos) << run.output;
 }
@@ -124,8 +124,7 @@ TEST_P(SimulationTest, BenchPasses) {
   if (b.vectors) files.push_back(benches + "/common/bench_vectors" + (verilog ? ".v" : ".vhd"));
   for (const Variation& v : b.variations) {
     const std::string design = std::string(v.name) + (verilog ? ".v" : ".vhd");
-    const CommandResult made =
-        plovixBatch(dir, v.modulon, verilog ? "verilog" : "vhdl", v.pluginArgs, design);
+    const ToolRun made = plovixBatch(dir, v.modulon, verilog ? "verilog" : "vhdl", v.pluginArgs, design);
     ASSERT_EQ(made.exitCode, 0) << made.output;
     files.push_back(design);
   }
@@ -139,11 +138,11 @@ TEST_P(SimulationTest, BenchPasses) {
   }
 
   if (verilog) {
-    const CommandResult compiled = icarusCompile(dir, files, top);
+    const ToolRun compiled = icarusCompile(dir, files, top);
     ASSERT_EQ(compiled.exitCode, 0) << compiled.output;
     expectPassed(icarusRun(dir, top, b.vectors ? quoted("+vectors=" + vectors) : ""));
   } else {
-    const CommandResult elaborated = ghdlElaborate(dir, files, top);
+    const ToolRun elaborated = ghdlElaborate(dir, files, top);
     ASSERT_EQ(elaborated.exitCode, 0) << elaborated.output;
     expectPassed(ghdlRun(dir, top, b.vectors ? quoted("-gvectors=" + vectors) : ""));
   }
@@ -161,10 +160,10 @@ INSTANTIATE_TEST_SUITE_P(Benches, SimulationTest,
 TEST(VerilatorSimulationTest, CounterBenchPasses) {
   if (!haveProgram("verilator")) GTEST_SKIP() << "Verilator missing";
   TempDir dir;
-  const CommandResult made =
+  const ToolRun made =
       plovixBatch(dir, "lpm_counter", "verilog", kBenches[0].variations[0].pluginArgs, "cnt10.v");
   ASSERT_EQ(made.exitCode, 0) << made.output;
-  const CommandResult built =
+  const ToolRun built =
       runIn(dir.dir(), "verilator --binary --timing -Wno-fatal -Wno-PINMISSING -y " +
                            quoted(modulonLibrary() + "/hdl/verilog") + " --top-module tb_cnt10 cnt10.v " +
                            quoted(std::string(PLOVIX_BENCH_DIR) + "/tb_cnt10.v") + " -o tb_cnt10 -j 1");

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "RecordingInterface.h"
+#include "base/TextFile.h"
 #include "base/TextHelpers.h"
 #include "hdl/ThdlFileWriter.h"
 

@@ -13,6 +13,7 @@
 #include "../corpus/LimitCases.h"
 #include "RecordingInterface.h"
 #include "TempDir.h"
+#include "ToolRun.h"
 #include "base/TextHelpers.h"
 #include "hdl/HdlChecks.h"
 #include "hdl/Netlist.h"
@@ -24,36 +25,6 @@ namespace {
 
 using testing::RecordingInterface;
 using testing::TempDir;
-
-struct ToolRun {
-  int exitCode = -1;
-  std::string output;
-};
-
-ToolRun runIn(const TempDir& dir, const std::string& command) {
-  const std::string log = dir.path("tool.log");
-  const int status =
-      std::system(("cd '" + dir.dir() + "' && (" + command + ") > '" + log + "' 2>&1").c_str());
-  return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, TempDir::readFile(log)};
-}
-
-bool toolInstalled(const std::string& tool) {
-  return std::system(("command -v " + tool + " > /dev/null 2>&1").c_str()) == 0;
-}
-
-// (case, tool) -> the part of the message the tool gives for the case, from the corpus's list.
-std::map<std::pair<std::string, std::string>, std::string> knownLimits() {
-  std::map<std::pair<std::string, std::string>, std::string> limits;
-  std::ifstream in(testing::corpusDir() + "verilog_limits.txt");
-  for (std::string line; std::getline(in, line);) {
-    if (line.empty() || line[0] == '#') continue;
-    const size_t blank = line.find(' ');
-    const size_t colon = line.find(": ", blank);
-    if (blank == std::string::npos || colon == std::string::npos) continue;
-    limits[{line.substr(0, blank), line.substr(blank + 1, colon - blank - 1)}] = line.substr(colon + 2);
-  }
-  return limits;
-}
 
 std::string stubFiles() {
   std::string files;
@@ -89,7 +60,7 @@ class WithVerilogTools : public ::testing::TestWithParam<Param> {
  protected:
   void SetUp() override {
     for (const char* tool : {"iverilog", "verilator", "yosys"}) {
-      if (!toolInstalled(tool)) GTEST_SKIP() << tool << " is not installed";
+      if (!testing::haveProgram(tool)) GTEST_SKIP() << tool << " is not installed";
     }
   }
 };
@@ -108,19 +79,11 @@ TEST_P(VerilogTools, GeneratedFilesAreReadByEveryTool) {
   ASSERT_TRUE(writer.writeInstanceFile());
   work.write("bench.v", templateBench(description, work.read(name + "_inst.v")));
 
-  const auto limits = knownLimits();
-  for (const auto& [tool, command] : toolCommands(name, name + ".v" + stubFiles())) {
-    const ToolRun run = runIn(work, command);
-    const auto limit = limits.find({name, tool});
-    if (limit == limits.end()) {
-      EXPECT_EQ(run.exitCode, 0) << tool << " rejects " << name << ".v:\n" << run.output;
-    } else {
-      EXPECT_NE(run.exitCode, 0) << tool << " now accepts " << name << ".v; drop it from verilog_limits.txt";
-      EXPECT_NE(run.output.find(limit->second), std::string::npos) << tool << " says:\n" << run.output;
-    }
-  }
+  const testing::KnownLimits limits(testing::corpusDir() + "verilog_limits.txt");
+  for (const auto& [tool, command] : toolCommands(name, name + ".v" + stubFiles()))
+    limits.expect(name, tool, testing::runIn(work.dir(), command));
   for (const auto& [tool, command] : toolCommands("bench", "bench.v " + name + "_bb.v")) {
-    const ToolRun run = runIn(work, command);
+    const testing::ToolRun run = testing::runIn(work.dir(), command);
     EXPECT_EQ(run.exitCode, 0) << tool << " rejects the black box with the template of " << name << ":\n"
                                << run.output;
   }
@@ -185,8 +148,9 @@ TEST_P(VerilogSimulation, VariationsGiveTheExpectedOutputs) {
   const Netlist netlist = buildNetlist(description, testing::kCorpusSignature);
   const VerilogFileWriter writer(ui, work.path(name), testing::kCorpusSignature, description, netlist);
   ASSERT_TRUE(writer.writeDesignFile());
-  const ToolRun run = runIn(
-      work, "iverilog -o sim.vvp -s sim " + name + ".v" + stubFiles() + " '" + bench + "' && vvp -n sim.vvp");
+  const testing::ToolRun run =
+      testing::runIn(work.dir(), "iverilog -o sim.vvp -s sim " + name + ".v" + stubFiles() + " '" + bench +
+                                     "' && vvp -n sim.vvp");
   EXPECT_EQ(run.exitCode, 0) << run.output;
   EXPECT_NE(run.output.find("PASS"), std::string::npos) << run.output;
   EXPECT_EQ(run.output.find("FAIL"), std::string::npos) << run.output;

@@ -14,6 +14,7 @@
 
 #include "../corpus/LimitCases.h"
 #include "../vhdl/VhdlCases.h"
+#include "ToolRun.h"
 #include "hdl/HdlChecks.h"
 #include "hdl/VhdlTextRules.h"
 
@@ -26,32 +27,6 @@ using testing::VhdlCase;
 
 const std::string kGhdl = "ghdl";
 const std::string kStandard = " --std=93c";
-
-struct ToolRun {
-  int exitCode = -1;
-  std::string output;
-};
-
-ToolRun runIn(const TempDir& dir, const std::string& command) {
-  const std::string log = dir.path("tool.log");
-  const int status =
-      std::system(("cd '" + dir.dir() + "' && (" + command + ") > '" + log + "' 2>&1").c_str());
-  return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, TempDir::readFile(log)};
-}
-
-// (case, step) -> the part of GHDL's message for a case whose specified text the tool rejects.
-std::map<std::pair<std::string, std::string>, std::string> knownLimits() {
-  std::map<std::pair<std::string, std::string>, std::string> limits;
-  std::ifstream in(std::string(PLOVIX_SOURCE_DIR) + "/tests/vhdl_tools/vhdl_limits.txt");
-  for (std::string line; std::getline(in, line);) {
-    if (line.empty() || line[0] == '#') continue;
-    const size_t blank = line.find(' ');
-    const size_t colon = line.find(": ", blank);
-    if (blank == std::string::npos || colon == std::string::npos) continue;
-    limits[{line.substr(0, blank), line.substr(blank + 1, colon - blank - 1)}] = line.substr(colon + 2);
-  }
-  return limits;
-}
 
 // Analyses the stubs: a file named after a library of the description goes into that library, every other
 // one into the work library.
@@ -90,28 +65,16 @@ std::string templateBench(const VhdlFileWriter& writer, const CnxDescription& de
 class VhdlTools : public ::testing::TestWithParam<std::string> {
  protected:
   void SetUp() override {
-    if (std::system(("command -v " + kGhdl + " > /dev/null 2>&1").c_str()) != 0) {
-      GTEST_SKIP() << kGhdl << " is not installed";
-    }
+    if (!testing::haveProgram(kGhdl)) GTEST_SKIP() << kGhdl << " is not installed";
   }
 
   // Runs one step; a step listed as a known limit must fail with its message, any other must pass.
   bool step(const TempDir& dir, const std::string& name, const std::string& stepName,
             const std::string& command) {
-    const ToolRun run = runIn(dir, command);
-    const auto limit = limits_.find({name, stepName});
-    if (limit == limits_.end()) {
-      EXPECT_EQ(run.exitCode, 0) << kGhdl << " fails at " << stepName << " of " << name << ":\n"
-                                 << run.output;
-    } else {
-      EXPECT_NE(run.exitCode, 0) << kGhdl << " now passes " << stepName << " of " << name
-                                 << "; drop it from vhdl_limits.txt";
-      EXPECT_NE(run.output.find(limit->second), std::string::npos) << kGhdl << " says:\n" << run.output;
-    }
-    return run.exitCode == 0;
+    return limits_.expect(name, stepName, testing::runIn(dir.dir(), command));
   }
 
-  const std::map<std::pair<std::string, std::string>, std::string> limits_ = knownLimits();
+  const testing::KnownLimits limits_{std::string(PLOVIX_SOURCE_DIR) + "/tests/vhdl_tools/vhdl_limits.txt"};
 };
 
 TEST_P(VhdlTools, GeneratedFilesAreAcceptedByGhdl) {
@@ -173,7 +136,7 @@ TEST_P(VhdlValidText, IsAcceptedByGhdl) {
   const std::string elaborate = kGhdl + " -e" + kStandard + " ";
   for (const std::string& command : {stubCommands(description), analyse + name + ".vhd", elaborate + name,
                                      analyse + "companion.vhd", analyse + "bench.vhd", elaborate + "bench"}) {
-    const ToolRun run = runIn(dir, command);
+    const testing::ToolRun run = testing::runIn(dir.dir(), command);
     EXPECT_EQ(run.exitCode, 0) << command << ":\n" << run.output;
   }
 }
