@@ -1,4 +1,5 @@
-// The sections of the VHDL texts on their own: the rules that the whole sample texts do not reach.
+// The sections of the VHDL texts on their own: the rules that the whole sample texts (golden files of
+// tests/corpus/GeneratedTextTest.cpp) do not reach.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -72,74 +73,6 @@ TEST(VhdlTextRules, TypesRangesAndDefaults) {
   EXPECT_EQ(vhdlGenericValue({texts.intern("S"), ValueType::kString, texts.intern("UP"), {}}), "\"UP\"");
   EXPECT_EQ(vhdlIntegerOf(Bound::ofValue(12)), 12);
   EXPECT_EQ(vhdlIntegerOf(Bound::fromText("12x", texts)), 0);
-}
-
-TEST(VhdlLibraryClauses, DefaultsPackagesAndTheNoDefaultMarker) {
-  Sample none("MODULE: m\n");
-  ASSERT_TRUE(none.loaded);
-  EXPECT_EQ(none.writer.libraryClausesText(), "LIBRARY ieee;\nUSE ieee.std_logic_1164.all;\n");
-
-  Sample only("MODULE: m\nLIBRARY: NO_DEFAULT_LIB\n");
-  ASSERT_TRUE(only.loaded);
-  EXPECT_EQ(only.writer.libraryClausesText(), "");
-
-  // Pieces of a use text are trimmed and runs of ";" give no empty clause; the marker drops the defaults
-  // wherever it stands.
-  Sample several(
-      "MODULE: m\nLIBRARY: lpm \"lpm.a.all ;; lpm.b.all;\"\nLIBRARY: NO_DEFAULT_LIB\n"
-      "LIBRARY: alt alt.c.all\n");
-  ASSERT_TRUE(several.loaded);
-  EXPECT_EQ(several.writer.libraryClausesText(),
-            "\nLIBRARY lpm;\nUSE lpm.a.all;\nUSE lpm.b.all;\n\nLIBRARY alt;\nUSE alt.c.all;\n");
-}
-
-// Two instances of one module share a declaration whose generics are those of the first instance; each
-// instance gets its own generic map, the second an empty one.
-TEST(VhdlComponents, OneDeclarationPerModuleWithTheFirstInstancesGenerics) {
-  Sample sample(
-      "MODULE: cnt a\nMODULE: cnt b\nMODULE: reg r\n"
-      "CONSTANT: WIDTH NUMERIC 4 a\nCONSTANT: Mode STRING up\nPARAMETER: depth NUMERIC 2 a\n"
-      "USED_PORT: clk 0 0 0 0 INPUT NODEFVAL\n"
-      "CONNECT: a@clock 0 0 0 0 clk 0 0 0 0\nCONNECT: b@clock 0 0 0 0 clk 0 0 0 0\n"
-      "CONNECT: r@clock 0 0 0 0 clk 0 0 0 0\n");
-  ASSERT_TRUE(sample.loaded);
-  const VhdlFileWriter& w = sample.writer;
-  EXPECT_EQ(w.componentDeclarationsText(),
-            "\n\n\tCOMPONENT cnt\n\tGENERIC (\n\t\twidth\t\t: NATURAL;\n\t\tmode\t\t: STRING;\n"
-            "\t\tdepth\t\t: depth\n\t);\n\tPORT (\n\t\t\tclock\t: IN STD_LOGIC \n\t);\n\tEND COMPONENT;\n\n"
-            "\n\n\tCOMPONENT reg\n\tGENERIC (\n\t\tmode\t\t: STRING\n\t);\n\tPORT (\n"
-            "\t\t\tclock\t: IN STD_LOGIC \n\t);\n\tEND COMPONENT;\n\n");
-  EXPECT_EQ(w.instancesText(declareVhdlSignals(sample.netlist, sample.description, "top")),
-            "\ta_component : cnt\n\tGENERIC MAP (\n\t\tWIDTH => 4,\n\t\tMode => \"up\"\n\t)\n"
-            "\tPORT MAP (\n\t\tclock => clk\n\t);\n\n\n\n"
-            "\tb_component : cnt\n\tGENERIC MAP (\n\t\tMode => \"up\"\n\t)\n"
-            "\tPORT MAP (\n\t\tclock => clk\n\t);\n\n\n\n"
-            "\tr_component : reg\n\tGENERIC MAP (\n\t\tMode => \"up\"\n\t)\n"
-            "\tPORT MAP (\n\t\tclock => clk\n\t);\n\n\n\n");
-}
-
-// A port fed by several connections gets a conversion signal also when it is the instance's last port, and
-// the conversion takes the next wire number.
-TEST(VhdlConversions, LastPortOfAnInstanceGetsItsConversionSignal) {
-  Sample sample(
-      "MODULE: add u\nUSED_PORT: x 0 0 2 0 INPUT NODEFVAL\nUSED_PORT: y 0 0 1 0 INPUT NODEFVAL\n"
-      "USED_PORT: s 0 0 3 0 OUTPUT NODEFVAL\n"
-      "CONNECT: s 0 0 3 0 u@sum 0 0 3 0\n"
-      "CONNECT: u@dataa 0 0 2 1 x 0 0 2 0\nCONNECT: u@dataa 0 0 1 0 y 0 0 1 0\n");
-  ASSERT_TRUE(sample.loaded);
-  const VhdlFileWriter& w = sample.writer;
-  const VhdlNetlist signals = declareVhdlSignals(sample.netlist, sample.description, "top");
-  ASSERT_EQ(signals.conversions.size(), 1u);
-  const NetlistConversion& conversion = signals.conversions[0];
-  EXPECT_EQ(conversion.name, "sub_wire1");
-  EXPECT_EQ(conversion.joinedText, "x(1 DOWNTO 0) & y(0 DOWNTO 0)");
-  EXPECT_EQ(conversion.key, "u.dataa");
-  EXPECT_EQ(conversion.bitsWidth.text(), "3");
-  EXPECT_NE(w.signalDeclarationsText(signals).find("\tSIGNAL sub_wire1\t: STD_LOGIC_VECTOR (2 DOWNTO 0);\n"),
-            std::string::npos);
-  EXPECT_NE(w.concurrentAssignmentsText(signals).find("\tsub_wire1    <= x(1 DOWNTO 0) & y(0 DOWNTO 0);\n"),
-            std::string::npos);
-  EXPECT_NE(w.instancesText(signals).find("\t\tdataa => sub_wire1"), std::string::npos);
 }
 
 // Hand-made netlists for the rules that whole descriptions reach only in odd corners.

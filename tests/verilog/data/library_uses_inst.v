@@ -1,0 +1,3 @@
+library_uses	library_uses_inst (
+
+	);

@@ -1,0 +1,3 @@
+no_library	no_library_inst (
+
+	);

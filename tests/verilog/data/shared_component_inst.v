@@ -1,0 +1,3 @@
+shared_component	shared_component_inst (
+	.clk ( clk_sig )
+	);

@@ -1,0 +1,3 @@
+library_uses_inst : library_uses PORT MAP(
+
+	);

@@ -1,0 +1,3 @@
+no_default_lib_inst : no_default_lib PORT MAP(
+
+	);

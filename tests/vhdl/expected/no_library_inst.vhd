@@ -1,0 +1,3 @@
+no_library_inst : no_library PORT MAP(
+
+	);

@@ -1,0 +1,3 @@
+shared_component_inst : shared_component PORT MAP(
+		clk	 => clk_sig
+	);
