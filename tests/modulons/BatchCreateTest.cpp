@@ -106,6 +106,10 @@ TEST_P(BatchCreateTest, CreatesAndEditsTheVariationAndTheToolsAcceptIt) {
   if (kept != pair.substr(0, pair.find('='))) {
     EXPECT_EQ(storedValue(after, kept), storedValue(before, kept));
   }
+  EXPECT_FALSE(std::filesystem::exists(dir.path("out/" + name + ".cnx")));
+  // A second edit with no values regenerates the same text.
+  ASSERT_EQ(plovixBatch(dir, "", "", "", design).exitCode, 0);
+  EXPECT_EQ(dir.read(design), after);
 
   dir.write("rom.txt", "0\n");  // the initialisation file of the ROM's row, which Yosys reads
 
