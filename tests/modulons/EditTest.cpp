@@ -1,17 +1,12 @@
 // Editing variations: refused values and a plug-in cancelled at its prompt leave every file as it was (edits
 // that succeed are the batch create-and-edit runs').
 #include <gtest/gtest.h>
-#include <poll.h>
-#include <pty.h>
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <chrono>
 #include <filesystem>
 #include <map>
 
 #include "BatchRun.h"
+#include "TerminalSession.h"
 
 namespace plovix::testing {
 namespace {
@@ -55,49 +50,13 @@ TEST(EditTest, RefusedValuesLeaveEveryFileUnchanged) {
 // Runs plovix with a terminal as its standard input, ends the input at the plug-in's first prompt, and gives
 // the exit code and everything shown on the terminal.
 ToolRun cancelAtPrompt(const TempDir& dir, const std::string& designFile) {
-  ToolRun result;
-  int master = -1;
-  const pid_t child = forkpty(&master, nullptr, nullptr, nullptr);
-  if (child < 0) return result;
-  if (child == 0) {
-    if (chdir(dir.dir().c_str()) != 0) _exit(126);
-    for (const char* name :
-         {"PLOVIX_LIB_PATH", "PLOVIX_USER_LIB_PATH", "PLOVIX_UI", "DISPLAY", "WAYLAND_DISPLAY"})
-      unsetenv(name);
-    const std::string plovix = std::string(PLOVIX_BINARY_DIR) + "/cli/plovix";
-    execl(plovix.c_str(), plovix.c_str(), "--batch", "--project", dir.dir().c_str(), designFile.c_str(),
-          nullptr);
-    _exit(127);
-  }
-  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-  bool sentEnd = false;
-  for (;;) {
-    pollfd p{master, POLLIN, 0};
-    if (std::chrono::steady_clock::now() > deadline) break;
-    if (poll(&p, 1, 200) > 0) {
-      char buffer[1024];
-      const ssize_t got = read(master, buffer, sizeof buffer);
-      if (got <= 0) break;
-      result.output.append(buffer, got);
-    }
-    if (!sentEnd && result.output.find("LPM_WIDTH: ") != std::string::npos) {
-      const char endOfInput = 4;  // the terminal's end-of-file character at the start of a line
-      sentEnd = write(master, &endOfInput, 1) == 1;
-    }
-  }
-  int status = 0;
-  pid_t ended = 0;
-  for (int tries = 0; tries < 100 && (ended = waitpid(child, &status, WNOHANG)) == 0; ++tries) usleep(100000);
-  if (ended == 0) {
-    // Still running after the input ended or the time ran out: a hang the test reports as a failure.
-    kill(child, SIGKILL);
-    waitpid(child, &status, 0);
-    close(master);
-    return result;
-  }
-  if (WIFEXITED(status)) result.exitCode = WEXITSTATUS(status);
-  close(master);
-  return result;
+  const std::string plovix = std::string(PLOVIX_BINARY_DIR) + "/cli/plovix";
+  testing::TerminalSession session(
+      dir.dir(), {plovix, "--batch", "--project", dir.dir(), designFile},
+      {"PLOVIX_LIB_PATH", "PLOVIX_USER_LIB_PATH", "PLOVIX_UI", "DISPLAY", "WAYLAND_DISPLAY"});
+  if (session.expect("LPM_WIDTH: ", 60)) session.writeRaw("\x04");  // end of input at the start of a line
+  const int exitCode = session.exitCode(10);
+  return {exitCode, session.output};
 }
 
 TEST(EditTest, PluginCancelledAtItsPromptLeavesEveryFileUnchanged) {

@@ -1,20 +1,17 @@
 // Console sessions of the plovix command driven through a pseudo-terminal: a variation is created on the
 // modulon page and then edited through the browser page, by typing the pages' commands.
 #include <gtest/gtest.h>
-#include <poll.h>
-#include <pty.h>
 #include <signal.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-#include <termios.h>
 
 #include <chrono>
 #include <string>
 #include <vector>
 
 #include "TempDir.h"
+#include "TerminalSession.h"
 #include "base/QuestionTexts.h"
 #include "base/Report.h"
 #include "pages/PageTexts.h"
@@ -39,100 +36,25 @@ constexpr const char* kCounterDescription =
     "CONNECT: lpm_counter@clock 0 0 0 0 clock 0 0 0 0\n"
     "CONNECT: q 8 0 0 0 lpm_counter@q 8 0 0 0\n";
 
-// plovix --ui console in a pseudo-terminal `columns` wide (0: a terminal that gives no width), started in the
-// project folder with the test's library (or the bundled one) and `arguments`.
-class ConsoleSession {
+// plovix --ui console in a pseudo-terminal, started in the project folder with the test's library (or the
+// bundled one) and `arguments`.
+class ConsoleSession : public testing::TerminalSession {
  public:
   explicit ConsoleSession(const TempDir& dir, std::vector<std::string> arguments = {}, int columns = 0,
-                          bool bundledLibrary = false) {
-    winsize size{};
-    size.ws_col = static_cast<unsigned short>(columns);
-    size.ws_row = 50;
-    pid_ = forkpty(&master_, nullptr, nullptr, &size);
-    if (pid_ == 0) {
-      if (chdir(dir.path("proj").c_str()) != 0) _exit(120);
-      const std::string library =
-          bundledLibrary ? std::string(PLOVIX_BINARY_DIR) + "/modulons/lib" : dir.path("lib");
-      setenv("PLOVIX_LIB_PATH", library.c_str(), 1);
-      setenv("PLOVIX_USER_LIB_PATH", "", 1);
-      setenv("PLOVIX_PROJECT_DIR", dir.path("proj").c_str(), 1);
-      setenv("TERM", "xterm", 1);
-      unsetenv("DISPLAY");
-      unsetenv("WAYLAND_DISPLAY");
-      const std::string program = std::string(PLOVIX_BINARY_DIR) + "/cli/plovix";
-      arguments.insert(arguments.begin(), {program, "--ui", "console"});
-      std::vector<char*> argv;
-      for (std::string& argument : arguments) argv.push_back(argument.data());
-      argv.push_back(nullptr);
-      execv(program.c_str(), argv.data());
-      _exit(127);
-    }
-  }
-  ~ConsoleSession() {
-    if (pid_ > 0 && !exited_) {
-      kill(pid_, SIGKILL);
-      waitpid(pid_, nullptr, 0);
-    }
-    if (master_ >= 0) close(master_);
-  }
-
-  // Reads until `text` appears after what earlier calls consumed; false after five seconds.
-  bool expect(const std::string& text) {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(5);
-    for (;;) {
-      const size_t at = output.find(text, consumed_);
-      if (at != std::string::npos) {
-        consumed_ = at + text.size();
-        return true;
-      }
-      if (std::chrono::steady_clock::now() > deadline || !readSome(100)) return false;
-    }
-  }
-  // Types `bytes` once the line editor reads the keys one by one (it prints its prompt first and then leaves
-  // the terminal's line mode; keys typed before would be taken by the terminal's own line editing).
-  void type(const std::string& bytes) {
-    for (int i = 0; i < 500 && inLineMode(); ++i) usleep(10000);
-    writeRaw(bytes);
-  }
-  void send(const std::string& line) { type(line + "\n"); }
-  void writeRaw(const std::string& bytes) {
-    ASSERT_EQ(write(master_, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
-  }
-  // Waits for the command to end (reading what it still prints) and gives its exit code.
-  int exitCode() {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    while (std::chrono::steady_clock::now() < deadline) {
-      int status = 0;
-      if (waitpid(pid_, &status, WNOHANG) == pid_) {
-        exited_ = true;
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-      }
-      if (!readSome(100)) usleep(10000);  // the terminal is closed; the command is ending
-    }
-    return -1;
-  }
-
-  std::string output;
+                          bool bundledLibrary = false)
+      : TerminalSession(
+            dir.path("proj"), withProgram(std::move(arguments)),
+            {"PLOVIX_LIB_PATH=" +
+                 (bundledLibrary ? std::string(PLOVIX_BINARY_DIR) + "/modulons/lib" : dir.path("lib")),
+             "PLOVIX_USER_LIB_PATH=", "PLOVIX_PROJECT_DIR=" + dir.path("proj"), "TERM=xterm", "DISPLAY",
+             "WAYLAND_DISPLAY"},
+            columns) {}
 
  private:
-  bool inLineMode() const {
-    termios mode{};
-    return tcgetattr(master_, &mode) == 0 && (mode.c_lflag & ICANON) != 0;
+  static std::vector<std::string> withProgram(std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), {std::string(PLOVIX_BINARY_DIR) + "/cli/plovix", "--ui", "console"});
+    return arguments;
   }
-  bool readSome(int milliseconds) {
-    pollfd fd{master_, POLLIN, 0};
-    if (poll(&fd, 1, milliseconds) <= 0) return true;
-    char buffer[4096];
-    const ssize_t n = read(master_, buffer, sizeof buffer);
-    if (n <= 0) return false;
-    output.append(buffer, static_cast<size_t>(n));
-    return true;
-  }
-
-  pid_t pid_ = -1;
-  int master_ = -1;
-  size_t consumed_ = 0;
-  bool exited_ = false;
 };
 
 class ConsoleSessionTest : public ::testing::Test {
