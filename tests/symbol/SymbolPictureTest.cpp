@@ -1,6 +1,6 @@
-// Tests of symbol pictures: an automatic symbol, a drawn one and the bundled constant modulon's symbol
-// rendered as SVG, checked to be well-formed XML with texts clear of each other and of the lines, and
-// converted to PNG under <build>/test-artifacts/symbol/ for a person to look at.
+// Tests of symbol pictures: an automatic symbol, a drawn one (golden SVG files) and the bundled constant
+// modulon's symbol rendered as SVG, checked to be well-formed XML with texts clear of each other and of the
+// lines, and converted to PNG under <build>/test-artifacts/symbol/ for a person to look at.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -11,6 +11,7 @@
 #include <sstream>
 
 #include "../corpus/CorpusCase.h"
+#include "Golden.h"
 #include "RecordingInterface.h"
 #include "TempDir.h"
 #include "plovix_host.h"
@@ -58,12 +59,6 @@ void convertToPng(const std::string& base) {
   if (run("command -v rsvg-convert") != 0) GTEST_SKIP() << "rsvg-convert is not installed";
   ASSERT_EQ(run("rsvg-convert -b white -o '" + base + ".png' '" + base + ".svg'"), 0);
   EXPECT_EQ(testing::TempDir::readFile(base + ".png").substr(1, 3), "PNG");
-}
-
-size_t countOf(const std::string& text, const std::string& piece) {
-  size_t count = 0;
-  for (size_t at = text.find(piece); at != std::string::npos; at = text.find(piece, at + 1)) ++count;
-  return count;
 }
 
 // A rectangle on the sheet; a line is one with no width or no height.
@@ -125,81 +120,25 @@ void expectTextsClear(const std::string& symPath) {
   }
 }
 
-TEST(SymbolPicture, AutomaticCounter) {
+// An automatic symbol and a drawn gate (data/<name>.cnx) rendered: the picture is a golden file, and the
+// automatic symbol's texts keep clear of each other and of the lines.
+class SamplePicture : public ::testing::TestWithParam<const char*> {};
+
+TEST_P(SamplePicture, MatchesTheGoldenPicture) {
+  const std::string name = GetParam();
   testing::TempDir work;
   testing::RecordingInterface ui;
   CnxDescription d;
-  testing::readCnxText("counter",
-                       "GENERATION: STANDARD\nVERSION: WM1.0\n"
-                       "USED_PORT: clock 0 0 0 0 INPUT NODEFVAL\nUSED_PORT: data 8 0 0 0 INPUT NODEFVAL\n"
-                       "USED_PORT: sload 0 0 0 0 INPUT NODEFVAL\nUSED_PORT: q 8 0 0 0 OUTPUT NODEFVAL\n"
-                       "USED_PORT: cout 0 0 0 0 OUTPUT NODEFVAL\nUSED_PORT: bus 4 0 0 0 BIDIR NODEFVAL\n"
-                       "PARAMETER: WIDTH NUMERIC 8\nPARAMETER: DIRECTION STRING NODEFVAL\n",
-                       work, ui, d);
-  const std::string svg = buildAndRender("automatic_counter", d);
-  for (const char* piece : {">automatic_counter<", ">clock<", ">data[7..0]<", ">q[7..0]<", ">bus[3..0]<"})
-    EXPECT_NE(svg.find(piece), std::string::npos) << piece;
-  EXPECT_NE(svg.find(">WIDTH=8</tspan><tspan"), std::string::npos);
-  EXPECT_NE(svg.find(">DIRECTION=</tspan>"), std::string::npos);
-  EXPECT_EQ(countOf(svg, "<rect x=\"") - 2, 6u);        // a mark per pin besides background and sheet
-  EXPECT_EQ(countOf(svg, "stroke-width=\"3\""), 3u);    // the bus stubs
-  EXPECT_EQ(countOf(svg, "text-anchor=\"end\">"), 3u);  // the right side's pin names end at the box
-  EXPECT_EQ(countOf(svg, "font-family=\"Liberation Sans, Arial, sans-serif\""), 8u);
-  expectTextsClear(artifactDir() + "automatic_counter.sym");
-  expectWellFormedXml(artifactDir() + "automatic_counter.svg");
-  convertToPng(artifactDir() + "automatic_counter");
+  ASSERT_TRUE(testing::readCnxText(
+      name, testing::TempDir::readFile(std::string(PLOVIX_TEST_DATA_DIR) + "/" + name + ".cnx"), work, ui,
+      d));
+  testing::expectGolden(buildAndRender(name, d), std::string(PLOVIX_TEST_DATA_DIR) + "/" + name + ".svg");
+  if (d.defaultSymbolBox) expectTextsClear(artifactDir() + name + ".sym");
+  expectWellFormedXml(artifactDir() + name + ".svg");
+  convertToPng(artifactDir() + name);
 }
 
-SymbolElement element(SymbolKind kind, auto record) {
-  return {kind, record};
-}
-
-// A drawn AND gate with an inverted output, a hidden reset pin, a vertical label, every line style, and
-// texts that need escaping.
-TEST(SymbolPicture, DrawnGate) {
-  CnxDescription d;
-  d.defaultSymbolBox = false;
-  d.symbolElements = {
-      element(SymbolKind::kBox, SymbolBox{160, 120, 84, 6, ""}),
-      element(SymbolKind::kLine, SymbolLine{40, 24, 70, 24, "", "THICK", false}),
-      element(SymbolKind::kLine, SymbolLine{40, 24, 40, 84, "", "THICK", false}),
-      element(SymbolKind::kLine, SymbolLine{40, 84, 70, 84, "", "THICK", false}),
-      element(SymbolKind::kArc, SymbolArc{70, 54, 70, 84, 70, 24, 30}),
-      element(SymbolKind::kCircle, SymbolCircle{104, 54, 4, false}),
-      element(SymbolKind::kCircle, SymbolCircle{150, 110, 3, true}),
-      element(SymbolKind::kLine, SymbolLine{8, 40, 40, 40, "", "", false}),
-      element(SymbolKind::kLine, SymbolLine{8, 68, 40, 68, "BUS", "", false}),
-      element(SymbolKind::kLine, SymbolLine{108, 54, 140, 54, "", "", false}),
-      element(SymbolKind::kLine, SymbolLine{4, 98, 140, 98, "DOTTED", "", false}),
-      element(SymbolKind::kLine, SymbolLine{4, 102, 140, 102, "DENSE", "", false}),
-      element(SymbolKind::kLine, SymbolLine{4, 106, 140, 106, "BROKEN", "", false}),
-      element(SymbolKind::kLine, SymbolLine{4, 110, 140, 110, "DASHED", "", false}),
-      element(SymbolKind::kLine, SymbolLine{2, 2, 156, 116, "", "", true}),
-      element(SymbolKind::kPinStub, SymbolPinStub{8, 40, "IN", "a", 10, 28, "a", "", ""}),
-      element(SymbolKind::kPinStub, SymbolPinStub{8, 68, "IN", "b[3..0]", 10, 56, "b[3..0]", "", ""}),
-      element(SymbolKind::kPinStub, SymbolPinStub{140, 54, "OUT", "y", 130, 42, "y", "", ""}),
-      element(SymbolKind::kPinStub, SymbolPinStub{150, 24, "IN", "rst", 130, 20, "", "", ""}),
-      element(SymbolKind::kText, SymbolText{"& <gate> \"x\" caf\xe9\x01", "", 44, 86, "", "Arial,6", ""}),
-      element(SymbolKind::kText, SymbolText{"UPRIGHT", "", 144, 62, "VERT", "Arial,7", ""}),
-      element(SymbolKind::kParameter, SymbolParameter{"LPM_WIDTH=4/LPM_TYPE=AND", ""}),
-  };
-  const std::string svg = buildAndRender("drawn_gate", d);
-  for (const char* piece : {">drawn_gate<", ">a<", ">b[3..0]<", ">y<", ">UPRIGHT<", "rotate(-90 ",
-                            "<path d=\"M 70 84 A 30 30 0 0 0 70 24\"", "fill=\"black\"/>",
-                            "&amp; &lt;gate&gt; &quot;x&quot; caf&#xE9;<", ">LPM_TYPE=AND</tspan>"})
-    EXPECT_NE(svg.find(piece), std::string::npos) << piece;
-  EXPECT_EQ(svg.find(">rst<"), std::string::npos);  // the hidden pin name is left out, its pin mark is not
-  EXPECT_NE(
-      svg.find(
-          "<text x=\"136\" y=\"51.9\" font-size=\"11\" font-family=\"Liberation Sans, Arial, sans-serif\" "
-          "text-anchor=\"end\">y<"),
-      std::string::npos);
-  EXPECT_EQ(countOf(svg, "<rect x=\"") - 2, 4u);
-  for (const char* dashes : {"\"1 2\"", "\"1 1\"", "\"6 2 1 2\"", "\"5 3\""})
-    EXPECT_EQ(countOf(svg, std::string("stroke-dasharray=") + dashes), 1u) << dashes;
-  expectWellFormedXml(artifactDir() + "drawn_gate.svg");
-  convertToPng(artifactDir() + "drawn_gate");
-}
+INSTANTIATE_TEST_SUITE_P(Samples, SamplePicture, ::testing::Values("automatic_counter", "drawn_gate"));
 
 // The bundled constant modulon draws its own symbol: every width's texts keep clear of each other and of the
 // box, and the picture of the widest is kept.
