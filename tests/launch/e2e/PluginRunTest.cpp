@@ -1,26 +1,20 @@
 // End-to-end runs with a test plug-in: the command line it gets, the files generated from what it leaves,
-// the command's status for each way a run ends, vendor scripts and the catalog listing (quitting and start
-// failures are the launch tests').
+// the command's status for each way a run ends, and the catalog listing (quitting, start failures and vendor
+// scripts are the launch tests').
 #include <gtest/gtest.h>
-#include <signal.h>
 #include <sys/stat.h>
 
-#include <cerrno>
-#include <chrono>
 #include <cstring>
 #include <string>
-#include <thread>
 
 #include "PlovixRunner.h"
 #include "RecordingInterface.h"
 #include "TempDir.h"
-#include "base/QuestionTexts.h"
 #include "ui/BatchFrontEnd.h"
 
 namespace plovix {
 namespace {
 
-using testing::asked;
 using testing::PlovixProcess;
 using testing::PlovixResult;
 using testing::reported;
@@ -149,16 +143,6 @@ TEST_F(PluginRunTest, ExitCodesDriveTheRun) {
       EXPECT_EQ(lib.read("args-2.txt"), variation() + "|\n-n|\n-symbol|\n");
     }
   }
-}
-
-TEST_F(PluginRunTest, VendorScriptRunsAfterGeneration) {
-  lib.write("test_wizard.lst", "[tests]\nREC=rec\n<INFO>\n<NATIVE_TOOL NAME=\"sh\">\n<SCRIPT HREF=\"cp '" +
-                                   variation() + "' '%w/copied.tdf'\"/>\n</NATIVE_TOOL>\n</INFO>\n");
-  const PlovixResult result = run({"--modulon", "REC", "--language", "thdl", variation()});
-  ASSERT_TRUE(result.exited(0)) << result.err;
-  EXPECT_NE(result.err.find(escapeBoxText(asked(questions::runVendorScript("sh")))), std::string::npos)
-      << result.err;
-  EXPECT_EQ(lib.read("copied.tdf"), project.read("var.tdf"));
 }
 
 TEST(ListModulons, PrintsTheCatalogAsATable) {
