@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
+#include <set>
+#include <sstream>
 #include <vector>
 
 #include "HdlTools.h"
@@ -11,98 +14,39 @@ namespace {
 
 // A variation the bench instantiates: its base name, modulon and values.
 struct Variation {
-  const char* name;
-  const char* modulon;
-  const char* pluginArgs;
+  std::string name, modulon, pluginArgs;
 };
 
-// tb_<bench>.v and tb_<bench>.vhd; a bench with vectors reads vectors/<bench>.vec (made by
-// reference/make_vectors.py) through benches/common, the others check their own sums. A bench without
-// variations instantiates library modules itself.
+// A bench (benches/benches.txt) and the variations it instantiates.
 struct Bench {
-  const char* bench;
+  std::string bench;
   std::vector<Variation> variations;
   bool vectors = true;
 };
 
-const Bench kBenches[] = {
-    {"cnt10",
-     {{"cnt10", "lpm_counter", "LPM_WIDTH=4 LPM_DIRECTION=UP LPM_MODULUS=10 ACLR=YES CNT_EN=LOW COUT=YES"}},
-     false},
-    {"add8",
-     {{"add8", "lpm_add_sub",
-       "LPM_WIDTH=8 LPM_DIRECTION=UNUSED LPM_REPRESENTATION=SIGNED COUT=YES OVERFLOW=YES"}},
-     false},
-    {"ram32", {{"ram32", "lpm_ram_dq", "LPM_WIDTH=8 LPM_WIDTHAD=5"}}, false},
-    {"ticker", {{"ticker", "count_compare", "LPM_WIDTH=4 MATCH_VALUE=5 ACLR=YES"}}, false},
-    {"defaults", {}},
-    {"inv", {{"inv1", "lpm_inv", "LPM_WIDTH=1"}, {"inv64", "lpm_inv", "LPM_WIDTH=64"}}},
-    {"gates",
-     {{"and64x3", "lpm_and", "LPM_WIDTH=64 LPM_SIZE=3"},
-      {"or1x5", "lpm_or", "LPM_WIDTH=1 LPM_SIZE=5"},
-      {"xor8x4", "lpm_xor", "LPM_WIDTH=8 LPM_SIZE=4"}}},
-    {"bustri", {{"bustri1", "lpm_bustri", "LPM_WIDTH=1"}, {"bustri64", "lpm_bustri", "LPM_WIDTH=64"}}},
-    {"clshift",
-     {{"lsh8", "lpm_clshift", "LPM_WIDTH=8 LPM_WIDTHDIST=4 DIRECTION=INPUT OVERFLOW=YES UNDERFLOW=YES"},
-      {"ash64", "lpm_clshift",
-       "LPM_WIDTH=64 LPM_WIDTHDIST=7 LPM_SHIFTTYPE=ARITHMETIC DIRECTION=INPUT OVERFLOW=YES UNDERFLOW=YES"},
-      {"rot8", "lpm_clshift", "LPM_WIDTH=8 LPM_WIDTHDIST=4 LPM_SHIFTTYPE=ROTATE DIRECTION=INPUT"},
-      {"rsh1", "lpm_clshift", "LPM_WIDTH=1 LPM_WIDTHDIST=2 DIRECTION=RIGHT UNDERFLOW=YES"}}},
-    {"mult",
-     {{"mult_u8", "lpm_mult", "LPM_WIDTHA=8 LPM_WIDTHB=8 LPM_WIDTHP=12"},
-      {"mult_s8x6_p3", "lpm_mult",
-       "LPM_WIDTHA=8 LPM_WIDTHB=6 LPM_REPRESENTATION=SIGNED LPM_PIPELINE=3 CLKEN=YES ACLR=YES"},
-      {"mult_s64", "lpm_mult", "LPM_WIDTHA=64 LPM_WIDTHB=64 LPM_REPRESENTATION=SIGNED"},
-      {"mult_u1_p3", "lpm_mult", "LPM_WIDTHA=1 LPM_WIDTHB=1 LPM_PIPELINE=3"}}},
-    {"divide",
-     {{"div_u8x4", "lpm_divide", "LPM_WIDTHN=8 LPM_WIDTHD=4"},
-      {"div_s16x8_p3", "lpm_divide",
-       "LPM_WIDTHN=16 LPM_WIDTHD=8 LPM_NREPRESENTATION=SIGNED LPM_DREPRESENTATION=SIGNED "
-       "LPM_REMAINDERPOSITIVE=FALSE LPM_PIPELINE=3 CLKEN=YES ACLR=YES"},
-      {"div_s64", "lpm_divide",
-       "LPM_WIDTHN=64 LPM_WIDTHD=64 LPM_NREPRESENTATION=SIGNED LPM_DREPRESENTATION=SIGNED"},
-      {"div_u1_p3", "lpm_divide", "LPM_WIDTHN=1 LPM_WIDTHD=1 LPM_PIPELINE=3"}}},
-    {"abs",
-     {{"abs1", "lpm_abs", "LPM_WIDTH=1"},
-      {"abs8", "lpm_abs", "LPM_WIDTH=8"},
-      {"abs64", "lpm_abs", "LPM_WIDTH=64"}}},
-    {"mux",
-     {{"mux8x5_p3", "lpm_mux", "LPM_WIDTH=8 LPM_SIZE=5 LPM_PIPELINE=3"},
-      {"mux64x2", "lpm_mux", "LPM_WIDTH=64 LPM_SIZE=2"},
-      {"mux1x3", "lpm_mux", "LPM_WIDTH=1 LPM_SIZE=3"}}},
-    {"decode",
-     {{"dec3x6", "lpm_decode", "LPM_WIDTH=3 LPM_DECODES=6 ENABLE=YES"},
-      {"dec1x2", "lpm_decode", "LPM_WIDTH=1 LPM_DECODES=2"}}},
-    {"storage",
-     {{"dff64", "lpm_ff",
-       "LPM_WIDTH=64 ENABLE=YES ACLR=YES ASET=YES ALOAD=YES SCLR=YES SSET=YES LPM_SVALUE=1234567"},
-      {"tff1", "lpm_ff", "LPM_WIDTH=1 LPM_FFTYPE=TFF ENABLE=YES ACLR=YES SSET=YES LPM_SVALUE=0 SLOAD=YES"},
-      {"latch64", "lpm_latch", "LPM_WIDTH=64 ACLR=YES ASET=YES LPM_AVALUE=2147483647"},
-      {"latch1", "lpm_latch", "LPM_WIDTH=1"}}},
-    {"memory",
-     {{"rom_hex", "lpm_rom", "LPM_WIDTH=64 LPM_WIDTHAD=4 LPM_NUMWORDS=12 LPM_FILE=memory.hex"},
-      {"rom_txt", "lpm_rom",
-       "LPM_WIDTH=1 LPM_WIDTHAD=5 LPM_FILE=memory.txt LPM_ADDRESS_CONTROL=UNREGISTERED "
-       "LPM_OUTDATA=REGISTERED"},
-      {"ramdp64", "lpm_ram_dp", "LPM_WIDTH=64 LPM_WIDTHAD=4 WRCLKEN=YES RDCLKEN=YES"},
-      {"ramdp1", "lpm_ram_dp",
-       "LPM_WIDTH=1 LPM_WIDTHAD=3 LPM_NUMWORDS=6 LPM_RDADDRESS_CONTROL=UNREGISTERED LPM_OUTDATA=REGISTERED "
-       "RDEN=YES"}}},
-    {"fifo",
-     {{"fifo64", "scfifo",
-       "LPM_WIDTH=64 LPM_NUMWORDS=5 ACLR=YES SCLR=YES USEDW=YES ALMOST_FULL_VALUE=4 ALMOST_EMPTY_VALUE=2"},
-      {"fifo1", "scfifo", "LPM_WIDTH=1 LPM_NUMWORDS=8 LPM_SHOWAHEAD=ON USEDW=YES"},
-      {"dcfifo_sync", "dcfifo",
-       "LPM_WIDTH=64 LPM_NUMWORDS=8 LPM_SHOWAHEAD=ON ACLR=YES RDSYNC_DELAYPIPE=2 WRSYNC_DELAYPIPE=3 "
-       "RDFULL=YES "
-       "RDUSEDW=YES WREMPTY=YES WRUSEDW=YES"},
-      {"level", "fifo_level", "LPM_WIDTH=8 LPM_NUMWORDS=8 LEVEL=6 ACLR=YES USEDW=YES"}}},
-    // The dual-clock FIFO on two unrelated clocks, checked by the bench's own scoreboard.
-    {"dcfifo_async",
-     {{"dcfifo_async", "dcfifo",
-       "LPM_WIDTH=16 LPM_NUMWORDS=16 RDFULL=YES RDUSEDW=YES WREMPTY=YES WRUSEDW=YES"}},
-     false},
-};
+// The benches of benches/benches.txt, in its order.
+std::vector<Bench> readBenches() {
+  std::vector<Bench> benches;
+  std::set<std::string> ownSums;
+  std::ifstream in(PLOVIX_BENCH_DIR "/benches.txt");
+  for (std::string line; std::getline(in, line);) {
+    std::istringstream words(line);
+    std::string bench;
+    words >> bench;
+    if (bench.empty() || bench[0] == '#') continue;
+    if (bench == "sums:") {
+      for (std::string name; words >> name;) ownSums.insert(name);
+      continue;
+    }
+    if (benches.empty() || benches.back().bench != bench)
+      benches.push_back({bench, {}, ownSums.count(bench) == 0});
+    Variation v;
+    if (!(words >> v.name >> v.modulon)) continue;
+    std::getline(words >> std::ws, v.pluginArgs);
+    benches.back().variations.push_back(v);
+  }
+  return benches;
+}
 
 class SimulationTest : public ::testing::TestWithParam<std::tuple<Bench, bool>> {};
 
@@ -115,7 +59,7 @@ void expectPassed(const ToolRun& run) {
 TEST_P(SimulationTest, BenchPasses) {
   const Bench& b = std::get<0>(GetParam());
   const bool verilog = std::get<1>(GetParam());
-  const std::string top = std::string("tb_") + b.bench;
+  const std::string top = "tb_" + b.bench;
   const std::string benches = PLOVIX_BENCH_DIR;
   if (verilog ? !haveProgram("iverilog") : !haveProgram("ghdl")) GTEST_SKIP() << "simulator missing";
 
@@ -123,7 +67,7 @@ TEST_P(SimulationTest, BenchPasses) {
   std::vector<std::string> files;
   if (b.vectors) files.push_back(benches + "/common/bench_vectors" + (verilog ? ".v" : ".vhd"));
   for (const Variation& v : b.variations) {
-    const std::string design = std::string(v.name) + (verilog ? ".v" : ".vhd");
+    const std::string design = v.name + (verilog ? ".v" : ".vhd");
     const ToolRun made = plovixBatch(dir, v.modulon, verilog ? "verilog" : "vhdl", v.pluginArgs, design);
     ASSERT_EQ(made.exitCode, 0) << made.output;
     files.push_back(design);
@@ -149,11 +93,12 @@ TEST_P(SimulationTest, BenchPasses) {
 }
 
 std::string benchName(const ::testing::TestParamInfo<SimulationTest::ParamType>& info) {
-  return std::string(std::get<0>(info.param).bench) + (std::get<1>(info.param) ? "_verilog" : "_vhdl");
+  return std::get<0>(info.param).bench + (std::get<1>(info.param) ? "_verilog" : "_vhdl");
 }
 
 INSTANTIATE_TEST_SUITE_P(Benches, SimulationTest,
-                         ::testing::Combine(::testing::ValuesIn(kBenches), ::testing::Bool()), benchName);
+                         ::testing::Combine(::testing::ValuesIn(readBenches()), ::testing::Bool()),
+                         benchName);
 
 // The counter bench also runs on Verilator's own simulator, which treats the models' pulls and timing its own
 // way.
@@ -161,7 +106,7 @@ TEST(VerilatorSimulationTest, CounterBenchPasses) {
   if (!haveProgram("verilator")) GTEST_SKIP() << "Verilator missing";
   TempDir dir;
   const ToolRun made =
-      plovixBatch(dir, "lpm_counter", "verilog", kBenches[0].variations[0].pluginArgs, "cnt10.v");
+      plovixBatch(dir, "lpm_counter", "verilog", readBenches()[0].variations[0].pluginArgs, "cnt10.v");
   ASSERT_EQ(made.exitCode, 0) << made.output;
   const ToolRun built =
       runIn(dir.dir(), "verilator --binary --timing -Wno-fatal -Wno-PINMISSING -y " +
