@@ -163,7 +163,8 @@ TEST(SymbolPicture, BundledConstantModulon) {
   convertToPng(base);
 }
 
-// The plovix command prints the same picture; it is built by its own target, so the test needs it built.
+// The plovix command prints the same picture (its failures are the batch runs' test); it is built by its own
+// target, so the test needs it built.
 TEST(SymbolPicture, RenderSymbolCommandPrintsThePicture) {
   const std::string plovix = std::string(PLOVIX_BINARY_DIR) + "/cli/plovix";
   if (!std::filesystem::exists(plovix)) GTEST_SKIP() << "the plovix command is not built";
@@ -178,12 +179,6 @@ TEST(SymbolPicture, RenderSymbolCommandPrintsThePicture) {
       "'" + plovix + "' --batch --render-symbol '" + base + ".sym' > '" + base + ".out.svg'";
   EXPECT_EQ(std::system(render.c_str()), 0);
   EXPECT_EQ(testing::TempDir::readFile(base + ".out.svg"), svg);
-  testing::TempDir temp;
-  const std::string command = "'" + plovix + "' --batch --render-symbol '" + temp.path("none.sym") +
-                              "' 2> '" + temp.path("err") + "' > '" + temp.path("out") + "'";
-  EXPECT_NE(std::system(command.c_str()), 0);
-  EXPECT_EQ(temp.read("out"), "");
-  EXPECT_EQ(temp.read("err"), testing::reported(Msg::kFileNotOpened, temp.path("none.sym")) + "\n");
 }
 
 }  // namespace
