@@ -2,10 +2,13 @@
 // ends, widened variation ports, packed rows, merged sub-module ports and the main-module widening.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
 #include <string>
 
 #include "../corpus/CorpusCase.h"
 #include "CnxTexts.h"
+#include "Golden.h"
 #include "RecordingInterface.h"
 #include "TempDir.h"
 #include "hdl/MainModuleWires.h"
@@ -75,79 +78,33 @@ Built build(const std::string& body, const std::string& signature = "pvx_counter
   return built;
 }
 
-struct Case {
-  const char* rule;
-  std::string body;
-  std::string wires;
-  std::string connections;
-};
-
-// What each kind of driving end becomes. Wires are numbered in the order they are made, without gaps.
-const Case kCases[] = {
-    {"a sub-module output used twice with the same range is one wire",
-     "MODULE: pvx_counter cnt\nMODULE: pvx_shifter shf\n"
-     "CONNECT: shf@data 0 0 4 0 cnt@q 0 0 4 0\nCONNECT: q 0 0 4 4 cnt@q 0 0 4 0\n"
-     "CONNECT: q 0 0 4 0 shf@q 0 0 4 0\n",
-     "sub_wire0 cnt_component.q[3:0] port q 0/4 x2\n"
-     "sub_wire1 shf_component.q[3:0] port q 0/4 x1\n",
-     ".q (0 0 4 4) <- sub_wire0 (0 0 4 0) [3:0]\n"
-     ".q (0 0 4 0) <- sub_wire1 (0 0 4 0) [3:0]\n"
-     "shf.data (0 0 4 0) <- sub_wire0 (0 0 4 0) [3:0]\n"},
-    {"a constant takes the shape of the port it drives; the same constant of the same shape shares a wire",
-     "MODULE: m\nCONNECT: m@d 0 0 8 0 GND 0 0 0 0\nCONNECT: m@e 0 0 8 0 GND 0 0 0 0\n"
-     "CONNECT: m@f 0 0 0 0 !VCC 0 0 0 0\n",
-     "sub_wire0 GND port GND 0/0 x1 constant\n"
-     "sub_wire1 GND[7:0] port GND 0/8 x2 constant\n",
-     "m.f (0 0 0 0) <- sub_wire0 (0 0 0 0) \n"
-     "m.d (0 0 8 0) <- sub_wire1 (0 0 8 0) [7:0]\n"
-     "m.e (0 0 8 0) <- sub_wire1 (0 0 8 0) [7:0]\n"},
-    {"an inverted port is found by its inverted key and carries the plain one; the plain use needs no wire",
-     "MODULE: m\nCONNECT: m@a 0 0 0 0 a 0 0 0 0\nCONNECT: m@b 0 0 0 0 !a 0 0 0 0\n"
-     "CONNECT: m@c 0 0 0 0 !a 0 0 0 0\n",
-     "sub_wire0 !a from a port a 0/0 x2 inverted\n",
-     "m.a (0 0 0 0) <- a (0 0 0 0) \n"
-     "m.b (0 0 0 0) <- sub_wire0 (0 0 0 0) \n"
-     "m.c (0 0 0 0) <- sub_wire0 (0 0 0 0) \n"},
-    {"without CONNECT: lines the netlist is empty", "MODULE: m\nUSED_PORT: a 0 0 0 0 INPUT NODEFVAL\n", "",
-     ""},
-    {"slices of a variation input feeding parts of a sub-module port travel on one wire of the input's width",
-     "MODULE: m\nUSED_PORT: x 0 0 8 0 INPUT NODEFVAL\n"
-     "CONNECT: m@d 0 0 2 2 x 0 0 4 4\nCONNECT: m@d 0 0 2 0 x 0 0 4 2\n",
-     "sub_wire0 x[7:4] port x 0/8 x1\n",
-     "m.d (0 0 2 2) <- sub_wire0 (0 0 8 4) [7:0]\n"
-     "m.d (0 0 2 0) <- sub_wire0 (0 0 8 2) [7:0]\n"},
-    {"one bit of a variation port driving a bus gets a wire of the bus's width; a sub-module output keeps "
-     "its "
-     "own width",
-     "MODULE: m\nMODULE: n u\nCONNECT: m@d 0 0 4 0 a 0 0 0 0\nCONNECT: m@e 0 0 4 0 u@b 0 0 0 0\n",
-     "sub_wire0 a port a 0/4 x1\n"
-     "sub_wire1 u_component.b port b 0/0 x1\n",
-     "m.d (0 0 4 0) <- sub_wire0 (0 0 0 0) \n"
-     "m.e (0 0 4 0) <- sub_wire1 (0 0 0 0) \n"},
-    {"the rows of a two-dimensional port are packed: a flat-side wire joins the row wires and a row-side "
-     "record feeds the port from it",
-     "MODULE: pvx_mux m\nUSED_PORT: d0 0 0 4 0 INPUT NODEFVAL\nUSED_PORT: d1 0 0 4 0 INPUT NODEFVAL\n"
-     "CONNECT: m@data 1 0 4 0 d0 0 0 4 0\nCONNECT: m@data 1 1 4 0 d1 0 0 4 0\n",
-     "sub_wire0 d1[3:0] port d1 0/4 x1\n"
-     "sub_wire1  [0:0][8:0] port   0/8 x1\n"
-     "sub_wire2 sub_wire1[3:0] port sub_wire1 2/4 x1\n"
-     "sub_wire3 d0[3:0] port d0 0/4 x1\n",
-     ".sub_wire0 (1 1 4 0) <- d1 (0 0 4 0) [3:0]\n"
-     ".sub_wire0 & sub_wire3 (0 0 8 0) <- sub_wire1 (0 0 8 0) [0:0][8:0] flat side\n"
-     "m.data (2 0 4 0) <- sub_wire2 (0 1 4 0) [1:0][3:0] row side\n"
-     ".sub_wire3 (1 0 4 0) <- d0 (0 0 4 0) [3:0]\n"},
-};
-
-TEST(NetlistTest, DrivingEndsBecomeWires) {
-  for (const Case& c : kCases) {
-    SCOPED_TRACE(c.rule);
-    const Built built = build(c.body);
-    EXPECT_EQ(wiresOf(built.netlist), c.wires);
-    EXPECT_EQ(connectionsOf(built.netlist), c.connections);
-    EXPECT_EQ(built.netlist.packsRows(), c.connections.find("flat side") != std::string::npos);
-    EXPECT_EQ(built.netlist.nextWireNumber(), static_cast<int32_t>(built.netlist.wires().size()));
+// What each kind of driving end becomes (data/*.cnx, each saying its rule; golden data/*.netlist). Wires are
+// numbered in the order they are made, without gaps.
+std::vector<std::string> sampleNames() {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(PLOVIX_TEST_DATA_DIR)) {
+    if (entry.path().extension() == ".cnx") names.push_back(entry.path().stem().string());
   }
+  std::sort(names.begin(), names.end());
+  return names;
 }
+
+class NetlistSample : public ::testing::TestWithParam<std::string> {};
+
+TEST_P(NetlistSample, DrivingEndsBecomeWires) {
+  const std::string file = std::string(PLOVIX_TEST_DATA_DIR) + "/" + GetParam();
+  const std::string cnx = TempDir::readFile(file + ".cnx");
+  const Built built = build(cnx.substr(cnx.find('\n', cnx.find('\n') + 1) + 1));
+  const std::string connections = connectionsOf(built.netlist);
+  testing::expectGolden("-- wires\n" + wiresOf(built.netlist) + "-- connections\n" + connections +
+                            "-- sub-module ports\n" + subModulePortsOf(built.netlist),
+                        file + ".netlist");
+  EXPECT_EQ(built.netlist.packsRows(), connections.find("flat side") != std::string::npos);
+  EXPECT_EQ(built.netlist.nextWireNumber(), static_cast<int32_t>(built.netlist.wires().size()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, NetlistSample, ::testing::ValuesIn(sampleNames()),
+                         [](const auto& info) { return info.param; });
 
 // The index of keys gives the first wire made for a key; an adjusted netlist's keys are its own.
 TEST(NetlistTest, WiresAreFoundByTheirKeys) {
