@@ -1,6 +1,10 @@
 // Accepted statement lines and the records they leave: libraries, modules, values, ports, and the tokenizer
 // rules that decide what a record holds.
+#include <algorithm>
+#include <filesystem>
+
 #include "CnxFixture.h"
+#include "Golden.h"
 #include "cnx/CnxLineReader.h"
 
 namespace plovix::testing {
@@ -43,80 +47,61 @@ TEST(CnxTokenizerTest, DelimitersQuotesAndTheEmptyQuotedToken) {
   EXPECT_FALSE(line.emptyQuoted);
 }
 
-TEST_F(StatementsTest, LibrariesAndModules) {
-  ASSERT_TRUE(read(kCnxHead + "LIBRARY: NO_DEFAULT_LIB\n"
-                              "LIBRARY: lpm lpm_components\n"
-                              "MODULE: A\n"
-                              "MODULE: B\n"
-                              "MODULE: A second\n"
-                              "MODULE: C \"\"\n"));
-  ASSERT_EQ(description.libraries.size(), 2u);
-  EXPECT_EQ(description.libraries[0].name, "NO_DEFAULT_LIB");
-  EXPECT_EQ(description.libraries[0].use, "");
-  EXPECT_EQ(description.libraries[1].use, "lpm_components");
-  EXPECT_EQ(description.mainModuleName, "A");
-  ASSERT_EQ(description.modules.size(), 4u);
-  // Modules without an instance name are instances of the main module's name.
-  EXPECT_EQ(description.modules[0].instanceName, "A");
-  EXPECT_EQ(description.modules[1].instanceName, "A");
-  EXPECT_EQ(description.modules[1].givenInstanceName, "");
-  EXPECT_EQ(description.modules[2].instanceName, "second");
-  EXPECT_EQ(description.modules[2].givenInstanceName, "second");
-  EXPECT_EQ(description.modules[3].instanceName, "A");
-  EXPECT_EQ(textsOf(description.moduleNames), (std::vector<std::string>{"A", "B", "C"}));
+// The records of a description, one a line, with every field.
+std::string recordsOf(const CnxDescription& d) {
+  std::string out = "main module: " + d.mainModuleName.str() + "\nmodule names:";
+  for (Name name : d.moduleNames) out += " " + name.str();
+  out += "\n";
+  for (const CnxLibrary& l : d.libraries) out += "LIBRARY " + l.name.str() + " [" + l.use.str() + "]\n";
+  for (const CnxModule& m : d.modules)
+    out += "MODULE " + m.moduleName.str() + " " + m.instanceName.str() + " [" + m.givenInstanceName.str() +
+           "]\n";
+  auto value = [&out](const char* kind, Name name, ValueType type, Name text, const std::string& target) {
+    out += std::string(kind) + " " + name.str() + (type == ValueType::kString ? " STRING [" : " NUMERIC [") +
+           text.str() + "]" + target + "\n";
+  };
+  for (const CnxParameter& p : d.parameters)
+    value("PARAMETER", p.name, p.type, p.value, " " + p.target.str());
+  for (const CnxConstant& c : d.constants) value("CONSTANT", c.name, c.type, c.value, " " + c.target.str());
+  for (const CnxPrivate& p : d.privates) value("PRIVATE", p.name, p.type, p.value, "");
+  for (const auto& [list, ports] :
+       {std::pair{"input", &d.inputPorts}, {"output", &d.outputPorts}, {"main module", &d.mainModulePorts}}) {
+    for (const CnxUsedPort& p : *ports) {
+      out += std::string(list) + " port " + p.name.str() + " (" + textsOf(p.shape)[0] + " " +
+             textsOf(p.shape)[1] + " " + textsOf(p.shape)[2] + " " + textsOf(p.shape)[3] + ") " +
+             std::string(directionKeyword(p.direction)) + " default " +
+             std::to_string(static_cast<int>(p.defaultValue.kind)) + " " + p.defaultValue.text.str() +
+             " tag [" + p.tag.str() + "]\n";
+    }
+  }
+  return out + (d.uses2D ? "two-dimensional\n" : "");
 }
+
+std::vector<std::string> statementSamples() {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(PLOVIX_TEST_DATA_DIR "/statements")) {
+    if (entry.path().extension() == ".cnx") names.push_back(entry.path().stem().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+class StatementSample : public CnxFixture, public ::testing::WithParamInterface<std::string> {};
+
+// Accepted lines of every kind (data/statements/*.cnx, each saying its rule) and the records they leave
+// (golden *.records).
+TEST_P(StatementSample, LeavesItsRecords) {
+  const std::string file = std::string(PLOVIX_TEST_DATA_DIR) + "/statements/" + GetParam();
+  ASSERT_TRUE(read(TempDir::readFile(file + ".cnx")));
+  expectGolden(recordsOf(description), file + ".records");
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, StatementSample, ::testing::ValuesIn(statementSamples()),
+                         [](const auto& info) { return info.param; });
 
 TEST_F(StatementsTest, ModuleNamesAreCollectedEvenWhenOtherLinesFail) {
   EXPECT_FALSE(read(kCnxHead + "MODULE: B\nFOO:\nMODULE: A\nMODULE: B\n"));
   EXPECT_EQ(textsOf(description.moduleNames), (std::vector<std::string>{"B", "A"}));
-}
-
-TEST_F(StatementsTest, ParametersConstantsAndPrivates) {
-  ASSERT_TRUE(read(kCnxHead + "MODULE: m\n"
-                              "PARAMETER: width NUMERIC\n"
-                              "PARAMETER: name STRING \"a b;c\" inst\n"
-                              "PARAMETER: odd NUMERIC not_a_number\n"
-                              "CONSTANT: C1;STRING;;\"\";target\n"
-                              "PRIVATE: state STRING \"x y\"\n"));
-  ASSERT_EQ(description.parameters.size(), 3u);
-  EXPECT_EQ(description.parameters[0].value, "");
-  EXPECT_EQ(description.parameters[0].target, "");
-  EXPECT_EQ(description.parameters[1].value, "a b;c");
-  EXPECT_EQ(description.parameters[1].target, "inst");
-  EXPECT_EQ(description.parameters[2].value, "not_a_number");
-  ASSERT_EQ(description.constants.size(), 1u);
-  EXPECT_EQ(description.constants[0].type, ValueType::kString);
-  EXPECT_EQ(description.constants[0].value, "");
-  EXPECT_EQ(description.constants[0].target, "target");
-  ASSERT_EQ(description.privates.size(), 1u);
-  EXPECT_EQ(description.privates[0].value, "x y");
-}
-
-TEST_F(StatementsTest, UsedPortsGoToTheListOfTheirDirectionOrOfTheMainModule) {
-  ASSERT_TRUE(read(kCnxHead + "MODULE: m\n"
-                              "USED_PORT: data 8 0 0 0 INPUT NODEFVAL\n"
-                              "USED_PORT: q 8 0 0 0 OUTPUT NODEFVAL Q_tag\n"
-                              "USED_PORT: io 1 0 0 0 BIDIR GND\n"
-                              "USED_PORT: @clock 0 0 0 0 OUTPUT NODEFVAL\n"
-                              "USED_PORT: !@x 0 0 0 0 INPUT VCC\n"
-                              "USED_PORT: !inv 0 0 0 0 INPUT NODEFVAL\n"
-                              "USED_PORT: sub@y 4 0 0 0 INPUT NODEFVAL\n"));
-  ASSERT_EQ(description.inputPorts.size(), 4u);
-  EXPECT_EQ(description.inputPorts[0].name, "data");
-  EXPECT_EQ(textsOf(description.inputPorts[0].shape), (std::vector<std::string>{"8", "0", "0", "0"}));
-  EXPECT_EQ(description.inputPorts[0].tag, "");
-  EXPECT_EQ(description.inputPorts[1].name, "x");
-  EXPECT_EQ(description.inputPorts[1].defaultValue.kind, DefaultKind::kPower);
-  EXPECT_EQ(description.inputPorts[2].name, "inv");
-  EXPECT_EQ(description.inputPorts[3].name, "y");
-  ASSERT_EQ(description.outputPorts.size(), 2u);
-  EXPECT_EQ(description.outputPorts[0].tag, "Q_tag");
-  EXPECT_EQ(description.outputPorts[1].direction, PortDirection::kBidir);
-  EXPECT_EQ(description.outputPorts[1].defaultValue.kind, DefaultKind::kGround);
-  ASSERT_EQ(description.mainModulePorts.size(), 1u);
-  EXPECT_EQ(description.mainModulePorts[0].name, "clock");
-  EXPECT_EQ(description.mainModulePorts[0].direction, PortDirection::kOutput);
-  EXPECT_FALSE(description.uses2D);
 }
 
 TEST_F(StatementsTest, TwoNonZeroWidthsMakeTheDescriptionTwoDimensional) {
