@@ -54,6 +54,8 @@ TABLE
 # Paths relative to the checkout in ccache keys, so that the faults' objects are shared between checkouts.
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
 
+# The faults are undone with git, so src/ must have no changes of its own.
+git diff --quiet -- src || { echo "src/ has uncommitted changes; commit or stash them first"; exit 1; }
 restore() { git checkout -q -- src; }
 trap 'restore; exit 130' INT TERM
 
