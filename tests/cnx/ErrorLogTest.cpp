@@ -27,8 +27,9 @@ std::vector<std::string> errorSamples() {
 
 class ErrorLogSample : public CnxFixture, public ::testing::WithParamInterface<std::string> {};
 
-// Faulty lines of every kind (data/errors/*.cnx): the log (golden *.cnxerr, with its entries in file order),
-// one box, and records left by the accepted lines only (the counts after the log, golden too).
+// Faulty lines of every kind, in the first two lines (head_*) and at the end of the file (data/errors/*.cnx;
+// a WM2.0 body has no reader, so its log has the banner alone): the log (golden *.cnxerr, with its entries in
+// file order), one box, and records left by the accepted lines only (the counts after the log, golden too).
 TEST_P(ErrorLogSample, LogsEveryFaultAndDropsItsLine) {
   EXPECT_FALSE(read(TempDir::readFile(kErrorSamples + GetParam() + ".cnx")));
   EXPECT_EQ(ui.boxes, std::vector<std::string>{error33()});
@@ -45,33 +46,6 @@ TEST_P(ErrorLogSample, LogsEveryFaultAndDropsItsLine) {
 
 INSTANTIATE_TEST_SUITE_P(Samples, ErrorLogSample, ::testing::ValuesIn(errorSamples()),
                          [](const auto& info) { return info.param; });
-
-TEST_F(ErrorLogTest, FirstTwoLinesMustBeTheGenerationAndVersionLines) {
-  struct Case {
-    std::string text, log;
-  };
-  const Case cases[] = {
-      {"", entry(0, "", Msg::kCnxUnexpectedEnd)},
-      {"GENERATION: STANDARD extra words\n", entry(1, "extra words", Msg::kCnxUnexpectedEnd)},
-      {"GENERATION: standard\nVERSION: WM1.0\nMODULE: m\n", entry(1, "", Msg::kCnxNoGenerationMode)},
-      {"\nGENERATION: STANDARD\n", entry(1, "", Msg::kCnxNoGenerationMode)},
-      {"// GENERATION: STANDARD\n", entry(1, "GENERATION: STANDARD", Msg::kCnxNoGenerationMode)},
-      {"GENERATION: SYMBOL_ONLY\nVERSION: WM3.0 x\nMODULE: m\n",
-       entry(2, "x", Msg::kCnxUnknownVersionNumber)},
-      {"GENERATION: STANDARD\n\nVERSION: WM1.0\n", entry(2, "", Msg::kCnxUnknownVersionNumber)},
-      // A WM2.0 body has no reader: the read fails with the banner alone.
-      {"GENERATION: STANDARD\nVERSION: WM2.0\nMODULE: m\n", ""},
-      {kCnxHead + "// only\n\n   \n// comments\n", entry(6, "comments", Msg::kCnxNoModuleName)},
-      {kCnxHead, entry(2, "", Msg::kCnxNoModuleName)},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.text);
-    ui.boxes.clear();
-    EXPECT_FALSE(read(c.text));
-    EXPECT_EQ(log(), banner() + c.log);
-    EXPECT_EQ(ui.boxes, std::vector<std::string>{error33()});
-  }
-}
 
 TEST_F(ErrorLogTest, ValidFileLeavesTheBannerAloneInTextMode) {
   temp.write("var.cnxerr", "an older log that must go\n");
