@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "../corpus/LimitCases.h"
+#include "Golden.h"
 #include "RecordingInterface.h"
 #include "TempDir.h"
 #include "base/Report.h"
@@ -64,7 +65,7 @@ TEST(HdlChecks, FindingsOfEveryCaseAsTheListingHasThem) {
       }
     }
   }
-  EXPECT_EQ(listing, TempDir::readFile(kLimitsDir + "findings.txt"));
+  testing::expectGolden(listing, kLimitsDir + "findings.txt");
   // THDL holds none of the constructs.
   EXPECT_TRUE(Case("three_feeds").findings(OutputLanguage::kThdl).empty());
 }
@@ -99,10 +100,10 @@ TEST_P(HdlTextModes, ValidTextDiffersOnlyWhereAFindingIsRewritten) {
   if (!testing::isLimitCase(name)) return;
   const std::string base = sample.work.path(name);
   const VhdlFileWriter vhdl(sample.ui, base, testing::kCorpusSignature, sample.description, sample.netlist);
-  EXPECT_EQ(vhdl.buildDesignText(), TempDir::readFile(kLimitsDir + "expected/" + name + ".vhd"));
+  testing::expectGolden(vhdl.buildDesignText(), kLimitsDir + "expected/" + name + ".vhd");
   const VerilogFileWriter verilog(sample.ui, base, testing::kCorpusSignature, sample.description,
                                   sample.netlist);
-  EXPECT_EQ(verilog.buildDesignText(), TempDir::readFile(kLimitsDir + "expected/" + name + ".v"));
+  testing::expectGolden(verilog.buildDesignText(), kLimitsDir + "expected/" + name + ".v");
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, HdlTextModes, ::testing::ValuesIn(testing::corpusAndLimitCases()));

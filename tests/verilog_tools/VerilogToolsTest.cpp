@@ -124,11 +124,12 @@ TEST_P(VerilogValidText, IsReadByEveryTool) {
   ASSERT_TRUE(writer.writeDesignFile() && writer.writeBlackBoxFile() && writer.writeInstanceFile());
   work.write("bench.v", templateBench(description, work.read(name + "_inst.v")));
   for (const auto& [tool, command] : toolCommands(name, name + ".v" + stubFiles())) {
-    const ToolRun run = runIn(work, command);
+    const testing::ToolRun run = testing::runIn(work.dir(), command);
     EXPECT_EQ(run.exitCode, 0) << tool << " rejects the valid text of " << name << ":\n" << run.output;
   }
   for (const auto& [tool, command] : toolCommands("bench", "bench.v " + name + "_bb.v")) {
-    EXPECT_EQ(runIn(work, command).exitCode, 0) << tool << " rejects the valid black box of " << name;
+    EXPECT_EQ(testing::runIn(work.dir(), command).exitCode, 0)
+        << tool << " rejects the valid black box of " << name;
   }
 }
 
