@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <string>
 #include <vector>
 
@@ -183,11 +184,14 @@ extern "C" int gio_sym_auto_gen_sym_w_params_w_alt_text(short instance, const ch
   Access access;
   Drawing* d = access.drawing(instance);
   int ok = 0;
+  int cause = ENOENT;  // no drawing to write: made with a missing directory or none at all
   if (d != nullptr && d->automatic) {
     layOut(*d, parameterText != nullptr ? parameterText : "");
     ok = plovix::sym::writeSymFile(*d) ? 1 : 0;
+    cause = errno;
     access.database().remove(instance);
   }
   TraceLine("gio_sym_auto_gen_sym_w_params_w_alt_text").arg(instance).arg(parameterText).result(ok);
+  errno = cause;
   return ok;
 }

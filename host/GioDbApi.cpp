@@ -1,4 +1,5 @@
 // The gio_db_ calls: making, naming, describing, writing and deleting drawings.
+#include <cerrno>
 #include <cstdio>
 
 #include "GioAccess.h"
@@ -113,8 +114,11 @@ extern "C" const char* gio_db_get_drawing_name(short instance) {
 extern "C" int gio_write_drawing(short instance) {
   Access access;
   Drawing* drawing = access.drawing(instance);
+  errno = ENOENT;  // no drawing to write
   const int ok = drawing != nullptr && plovix::sym::writeSymFile(*drawing) ? 1 : 0;
+  const int cause = errno;
   TraceLine("gio_write_drawing").arg(instance).result(ok);
+  errno = cause;
   return ok;
 }
 

@@ -1,8 +1,11 @@
 // Writing the gio_ call trace to the file that PLOVIX_GIO_TRACE names.
 #include "GioTrace.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+
+#include "base/SafeWrite.h"
 
 namespace plovix::gio {
 
@@ -85,10 +88,9 @@ void TraceLine::finish(const std::string& result) {
   const char* path = std::getenv("PLOVIX_GIO_TRACE");
   if (path == nullptr || *path == '\0') return;
   line_ += ") -> " + result + "\n";
-  if (std::FILE* file = std::fopen(path, "ab")) {
-    std::fwrite(line_.data(), 1, line_.size(), file);
-    std::fclose(file);
-  }
+  const int cause = errno;  // a call's errno outlives its trace line
+  appendToFile(path, line_);
+  errno = cause;
 }
 
 }  // namespace plovix::gio

@@ -10,8 +10,8 @@ namespace plovix::sym {
 // The drawing's connected records as .sym text.
 std::string formatSymText(const gio::Drawing& drawing);
 
-// Writes the drawing to its file path through a temporary file beside it, so an existing file is replaced
-// whole or not at all. False when there is no path or the file cannot be written.
+// Writes the drawing to its file path through the safe writer, so an existing file is replaced whole or not
+// at all. False with errno set when there is no path or the file cannot be written.
 bool writeSymFile(const gio::Drawing& drawing);
 
 // Reads .sym text into `drawing`. False with the number of the first bad line (or the line after the last

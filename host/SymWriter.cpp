@@ -1,11 +1,10 @@
 // Writing a drawing as .sym text and storing it in its file.
-#include <unistd.h>
-
-#include <cstdio>
+#include <cerrno>
 #include <string>
 
 #include "GioTrace.h"
 #include "SymFormat.h"
+#include "base/SafeWrite.h"
 
 namespace plovix::sym {
 
@@ -77,16 +76,13 @@ std::string formatSymText(const gio::Drawing& drawing) {
 }
 
 bool writeSymFile(const gio::Drawing& drawing) {
-  if (drawing.filePath.empty()) return false;
-  const std::string text = formatSymText(drawing);
-  const std::string temporary = drawing.filePath + ".tmp-" + std::to_string(getpid());
-  std::FILE* file = std::fopen(temporary.c_str(), "wb");
-  if (file == nullptr) return false;
-  bool ok = std::fwrite(text.data(), 1, text.size(), file) == text.size();
-  ok = std::fclose(file) == 0 && ok;
-  if (ok) ok = std::rename(temporary.c_str(), drawing.filePath.c_str()) == 0;
-  if (!ok) std::remove(temporary.c_str());
-  return ok;
+  if (drawing.filePath.empty()) {
+    errno = ENOENT;
+    return false;
+  }
+  const int errorNumber = replaceFile(drawing.filePath, formatSymText(drawing));
+  errno = errorNumber;
+  return errorNumber == 0;
 }
 
 }  // namespace plovix::sym

@@ -25,7 +25,7 @@ PLOVIX_HOST_API const char* ge_get_qelvix_lib_path(void);
  * build tree's copy. The first that exists is the default host library path. */
 PLOVIX_HOST_API const char* ge_get_bundled_lib_candidates(void);
 
-/* cpt: receives the native-language copy of a design text. */
+/* cpt: receives the native-language copy of a design text. 1 when written; 0 with errno set when not. */
 PLOVIX_HOST_API int cpt_zpip_write_file(const char* path, const char* text, int flags, int reserved);
 
 /* GIO: the symbol drawing database.
@@ -88,6 +88,7 @@ typedef struct gio_error_context {
 PLOVIX_HOST_API short gio_sym_auto_gen_begin(gio_error_context* error, const char* file_name, int reserved);
 PLOVIX_HOST_API int gio_sym_add_pin_stub_w_alt_text(const char* alt_text, const char* pin_name, int pin_type,
                                                     short instance);
+/* Writes the automatic symbol's file: 1 when written; 0 with errno set when not. */
 PLOVIX_HOST_API int gio_sym_auto_gen_sym_w_params_w_alt_text(short instance, const char* parameter_text);
 
 /* Drawings. Kind 1 is a symbol. The drawing name is the file name without directory and extension; the
@@ -103,6 +104,7 @@ PLOVIX_HOST_API int gio_db_set_command_status(short instance, int status);
 PLOVIX_HOST_API int gio_db_set_unit_mode(short instance, int unit_mode);
 PLOVIX_HOST_API int gio_db_set_sheet_size(short instance, const gio_point* size);
 PLOVIX_HOST_API const char* gio_db_get_drawing_name(short instance);
+/* Writes the drawing's file: 1 when written; 0 with errno set when not. */
 PLOVIX_HOST_API int gio_write_drawing(short instance);
 PLOVIX_HOST_API int gio_db_delete_instance(short instance, int reserved);
 

@@ -1,43 +1,23 @@
 // The plug-in's run: arguments, presets, questions, description.
 #include "WizardRun.h"
 
-#include <cerrno>
-#include <cstdio>
 #include <cstring>
-#include <fstream>
 
 #include "ModulonLibrary.h"
 #include "PluginMessages.h"
 #include "PreparedDescription.h"
 #include "SettingsJson.h"
+#include "base/SafeWrite.h"
 
 namespace plovix::wizard {
 
 namespace {
 
-// Writes next to the target and renames, so that a failed write never leaves half a description.
+// Through the manager's safe writer, so that a failed write never leaves half a description.
 bool writeDescription(const std::string& path, const std::string& text, std::string& reason) {
-  const std::string temporary = path + ".part";
-  {
-    std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-    if (!out) {
-      reason = std::strerror(errno);
-      return false;
-    }
-    out << text;
-    out.flush();
-    if (!out) {
-      reason = std::strerror(errno);
-      std::remove(temporary.c_str());
-      return false;
-    }
-  }
-  if (std::rename(temporary.c_str(), path.c_str()) != 0) {
-    reason = std::strerror(errno);
-    std::remove(temporary.c_str());
-    return false;
-  }
-  return true;
+  const int errorNumber = replaceFile(path, text);
+  if (errorNumber != 0) reason = std::strerror(errorNumber);
+  return errorNumber == 0;
 }
 
 void presetFromDescription(const Modulon& modulon, const std::string& cnxPath, SettingValues& values) {

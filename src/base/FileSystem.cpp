@@ -12,6 +12,7 @@
 
 #include "base/PathText.h"
 #include "base/Report.h"
+#include "base/SafeWrite.h"
 
 namespace plovix {
 
@@ -24,7 +25,7 @@ bool isReadable(const std::string& path) {
 }
 
 bool isWritable(const std::string& path) {
-  return !path.empty() && access(path.c_str(), W_OK) == 0;
+  return !path.empty() && writeProtection(path) == 0;
 }
 
 bool isDirectory(const std::string& path) {

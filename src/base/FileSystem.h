@@ -11,6 +11,7 @@ namespace plovix {
 bool fileExists(const std::string& path);
 bool isReadable(const std::string& path);
 bool isDirectory(const std::string& path);
+// Whether an existing file may be replaced: not write-protected in the safe writer's sense (writeProtection).
 bool isWritable(const std::string& path);
 
 // True when no such file exists; otherwise whether deleting it succeeded.

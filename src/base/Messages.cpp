@@ -264,6 +264,17 @@ constexpr Row kTable[] = {
     {Msg::kLintToolCannotStart, "could not be started: %s"},
     {Msg::kLintSummary, "linted %s file(s): %s not accepted, %s finding(s)"},
     {Msg::kUsageLintNeedsFile, "--lint needs the variation files to check"},
+    {Msg::kDescriptionTooLarge,
+     "File %s is too large for a CNX description: it holds more than %s bytes.\nNothing was generated and no "
+     "file was changed."},
+    {Msg::kDescriptionLineTooLong,
+     "Line %s of file %s is longer than %s bytes, the longest line a CNX description may hold.\nNothing was "
+     "generated and no file was changed."},
+    {Msg::kDescriptionKept, "The design file %s was not written; the wizard's settings are kept in %s."},
+    {Msg::kPluginEndedBySignal, "The modulon wizard plug-in %s was ended by signal %s (%s)."},
+    {Msg::kPositionChannelTaken,
+     "The position channel %s is taken by another program; the plug-in's window position is not followed in "
+     "this run."},
 };
 
 // Every message has its row, at the index of its number.

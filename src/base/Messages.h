@@ -215,6 +215,12 @@ enum class Msg : int {
   kLintToolCannotStart,
   kLintSummary,
   kUsageLintNeedsFile,
+  // Limits of a description, files kept after a failed write, plug-in signals, the position channel.
+  kDescriptionTooLarge,
+  kDescriptionLineTooLong,
+  kDescriptionKept,
+  kPluginEndedBySignal,
+  kPositionChannelTaken,
 
   kMessageCount
 };

@@ -1,14 +1,10 @@
-// Implementation of text-mode file reading and atomic writing.
+// Implementation of text-mode file reading, and writing through the safe writer.
 #include "base/TextFile.h"
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <cstdio>
 
-#include "base/PathText.h"
+#include "base/SafeWrite.h"
 
 namespace plovix {
 
@@ -81,74 +77,18 @@ std::vector<std::string> splitLines(std::string_view text) {
   return lines;
 }
 
-namespace {
-
-bool writeAll(int fd, std::string_view bytes, int& errorNumber) {
-  while (!bytes.empty()) {
-    const ssize_t n = ::write(fd, bytes.data(), bytes.size());
-    if (n < 0) {
-      if (errno == EINTR) continue;
-      errorNumber = errno;
-      return false;
-    }
-    bytes.remove_prefix(static_cast<size_t>(n));
-  }
-  return true;
-}
-
-}  // namespace
-
 bool writeTextFile(const std::string& path, std::string_view text, int& errorNumber) {
   return writeFileBytes(path, toTextMode(text), errorNumber);
 }
 
 bool writeFileBytes(const std::string& path, std::string_view bytes, int& errorNumber) {
-  errorNumber = 0;
-  // Refuse what the target itself would refuse, so that a read-only file is never replaced.
-  if (access(path.c_str(), F_OK) == 0 && access(path.c_str(), W_OK) != 0) {
-    errorNumber = errno;
-    return false;
-  }
-  struct stat targetInfo {};
-  const bool targetExists = stat(path.c_str(), &targetInfo) == 0;
-  if (targetExists && S_ISDIR(targetInfo.st_mode)) {
-    errorNumber = EISDIR;
-    return false;
-  }
-  std::string temp = directoryOfPath(path) + "." + nameWithExtension(path) + ".XXXXXX";
-  int fd = mkstemp(temp.data());
-  if (fd < 0) {
-    errorNumber = errno;
-    return false;
-  }
-  const bool ok = writeAll(fd, bytes, errorNumber);
-  if (ok) {
-    const mode_t mode = targetExists ? (targetInfo.st_mode & 07777) : [] {
-      const mode_t mask = umask(0);
-      umask(mask);
-      return static_cast<mode_t>(0666 & ~mask);
-    }();
-    fchmod(fd, mode);
-  }
-  if (::close(fd) != 0 && ok) errorNumber = errno;
-  if (!ok || errorNumber != 0 || std::rename(temp.c_str(), path.c_str()) != 0) {
-    if (errorNumber == 0) errorNumber = errno;
-    ::unlink(temp.c_str());
-    return false;
-  }
-  return true;
+  errorNumber = replaceFile(path, bytes);
+  return errorNumber == 0;
 }
 
 bool appendTextFile(const std::string& path, std::string_view text, int& errorNumber) {
-  errorNumber = 0;
-  const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
-  if (fd < 0) {
-    errorNumber = errno;
-    return false;
-  }
-  const bool ok = writeAll(fd, toTextMode(text), errorNumber);
-  ::close(fd);
-  return ok;
+  errorNumber = appendToFile(path, toTextMode(text));
+  return errorNumber == 0;
 }
 
 }  // namespace plovix

@@ -20,15 +20,14 @@ bool readTextFile(const std::string& path, std::string& text, int& errorNumber);
 // Splits a text into lines without their line ends; a last line without "\n" counts, an empty tail does not.
 std::vector<std::string> splitLines(std::string_view text);
 
-// Writes `text` in text mode. The text goes to a temporary file in the same directory that is then renamed
-// over the target, so the target is never left half-written. On failure returns false and sets
-// `errorNumber`; the target is unchanged.
+// Writes `text` in text mode through the safe writer (replaceFile): the target holds its old or its new text,
+// never a mixture. On failure returns false and sets `errorNumber`; the target is unchanged.
 bool writeTextFile(const std::string& path, std::string_view text, int& errorNumber);
 
 // The same for bytes written as they are (no line-end conversion).
 bool writeFileBytes(const std::string& path, std::string_view bytes, int& errorNumber);
 
-// Appends `text` in text mode to a file, creating it when missing.
+// Appends `text` in text mode to a file, creating it when missing (appendToFile).
 bool appendTextFile(const std::string& path, std::string_view text, int& errorNumber);
 
 }  // namespace plovix

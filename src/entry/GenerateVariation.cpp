@@ -2,6 +2,7 @@
 // copy handed to the host.
 #include "entry/GenerateVariation.h"
 
+#include <cerrno>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -9,6 +10,7 @@
 #include "base/Messages.h"
 #include "base/OutputKinds.h"
 #include "base/PathText.h"
+#include "base/Report.h"
 #include "base/TextHelpers.h"
 #include "entry/ConflictChecks.h"
 #include "hdl/HdlChecks.h"
@@ -145,8 +147,11 @@ void writeNativeCopy(ManagerApp& app, UserInterface& ui, NetlistOnce& netlist, c
   const OutputKind* designKind = outputKindOfExtension(run.extension);
   if (designKind == nullptr || designKind->language != kind->language)
     warnAboutConstructs(run, netlist, kind->language, path);
+  errno = 0;
   const bool written = cpt_zpip_write_file(path.c_str(), text.c_str(), 0, 0) != 0;
-  run.outcome.recordWrite(path, written, std::string(errorText(Msg::kNotWrittenByHost)));
+  const int cause = written ? 0 : errno;
+  if (!written) reportFileErrno(ui, cause, path);
+  run.outcome.recordWrite(path, written, fileErrnoMessage(cause, path));
 }
 
 }  // namespace

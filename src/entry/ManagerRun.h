@@ -1,6 +1,7 @@
 // The state of one manager run: the output name, the chosen modulon, the flags, and what the run owns.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -36,6 +37,10 @@ struct ManagerRun {
   std::unique_ptr<WizardCatalog> catalog;
   // What the run wrote; reset when a run starts and kept after it ends.
   RunOutcome outcome;
+  // When the run started: temporary files older than this that no writer holds were left by a killed run.
+  std::chrono::system_clock::time_point startTime;
+  // Whether the run has said that the position channel's name was taken (it says so once).
+  bool positionChannelNoted = false;
 
   std::string outputPath() const { return directory + fileTitle + extension; }
   std::string cnxPath() const { return directory + fileTitle + ".cnx"; }

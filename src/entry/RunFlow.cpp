@@ -15,6 +15,8 @@ void runManager(ManagerApp& app, UserInterface& ui, RunSteps& steps, const char*
                 const char* extraArguments) {
   ManagerRun& run = app.run;
   run.outcome = RunOutcome{};
+  run.positionChannelNoted = false;
+  run.startTime = std::chrono::system_clock::now();
   run.directLaunch = false;
   run.newFile = true;
   run.editMode = false;

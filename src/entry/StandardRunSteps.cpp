@@ -1,6 +1,8 @@
 // The real steps of a run, each handing over to the subsystem that does the work.
 #include "entry/StandardRunSteps.h"
 
+#include "base/Report.h"
+#include "base/SafeWrite.h"
 #include "cnx/CnxReader.h"
 #include "cnx/RetrievalInfo.h"
 #include "entry/ConflictChecks.h"
@@ -41,7 +43,9 @@ bool StandardRunSteps::extractRetrievalInfo(ManagerRun&, const std::string& vari
   return plovix::extractRetrievalInfo(ui_, variationPath);
 }
 
-LaunchResult StandardRunSteps::launchPlugin(ManagerRun&) {
+LaunchResult StandardRunSteps::launchPlugin(ManagerRun& run) {
+  // What an earlier run, killed while writing, left in the output directory goes first.
+  removeStaleTemporaries(run.directory, run.startTime);
   return plovix::launchPlugin(app_, ui_);
 }
 
@@ -61,7 +65,15 @@ bool StandardRunSteps::generateVariationFiles(ManagerRun&, const std::string& ou
   return plovix::generateVariationFiles(app_, ui_, outputPath, writeDesign, writeSymbol);
 }
 
+// A design file that could not be written keeps the work description, so the wizard's settings survive.
 void StandardRunSteps::deleteWorkFiles(ManagerRun& run) {
+  const std::string designPath = run.outputPath();
+  for (const RunOutcome::NotWritten& file : run.outcome.notWritten) {
+    if (file.path == designPath) {
+      reportError(ui_, Msg::kDescriptionKept, designPath, run.description->cnxPath);
+      return;
+    }
+  }
   deleteCnxWorkFiles(run.description->cnxPath);
 }
 

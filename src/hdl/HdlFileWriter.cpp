@@ -49,8 +49,9 @@ bool HdlFileWriter::writeCompanionFile() const {
 bool HdlFileWriter::writeSymbolFile() const {
   SymbolBuilder builder(ui_, basePath_, description_);
   const bool written = builder.buildSymbol();
+  if (!written) reportFileErrno(ui_, builder.writeError(), symbolPath());
   if (outcome_ != nullptr)
-    outcome_->recordWrite(symbolPath(), written, std::string(errorText(Msg::kNotWrittenByHost)));
+    outcome_->recordWrite(symbolPath(), written, fileErrnoMessage(builder.writeError(), symbolPath()));
   return written;
 }
 

@@ -1,6 +1,8 @@
 // The automatic symbol: the drawing library lays out the pins and the parameter text and writes the file.
 #include "symbol/AutomaticSymbol.h"
 
+#include <cerrno>
+
 #include "plovix_host.h"
 #include "symbol/SymbolBuilder.h"
 #include "symbol/SymbolCodes.h"
@@ -42,7 +44,11 @@ bool SymbolBuilder::buildAutomaticSymbol(const std::string& fileName) {
     for (const CnxUsedPort& port : *ports)
       gio_sym_add_pin_stub_w_alt_text(port.tag.c_str(), pinNameOf(port).c_str(),
                                       pinTypeCode(directionKeyword(port.direction)), instance_);
-  return gio_sym_auto_gen_sym_w_params_w_alt_text(instance_, parameterTextOf(description_).c_str()) != 0;
+  errno = 0;
+  const bool written =
+      gio_sym_auto_gen_sym_w_params_w_alt_text(instance_, parameterTextOf(description_).c_str()) != 0;
+  writeError_ = written ? 0 : errno;
+  return written;
 }
 
 }  // namespace plovix

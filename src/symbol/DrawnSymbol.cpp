@@ -1,4 +1,6 @@
 // The drawn symbol: a drawing made element by element from the description's symbol elements.
+#include <cerrno>
+
 #include "plovix_host.h"
 #include "symbol/SymbolBuilder.h"
 #include "symbol/SymbolCodes.h"
@@ -18,7 +20,9 @@ bool SymbolBuilder::buildDrawnSymbol(const std::string& fileName) {
   gio_db_set_command_status(instance_, 0);
   gio_db_set_unit_mode(instance_, 1);
   for (const SymbolElement& element : description_.symbolElements) drawElement(element);
+  errno = 0;
   const bool written = gio_write_drawing(instance_) != 0;
+  writeError_ = written ? 0 : errno;
   gio_db_delete_instance(instance_, 0);
   return written;
 }

@@ -15,8 +15,12 @@ class SymbolBuilder {
   SymbolBuilder(UserInterface& ui, std::string basePath, const CnxDescription& description);
 
   // Builds the symbol through the drawing library, which writes the file; whether the library reports the
-  // file written. The drawing library's failures are not shown to the user.
+  // file written. The drawing library's failures are not shown to the user here: writeError says why the
+  // file was not written, for the caller to report.
   bool buildSymbol();
+
+  // The errno value the drawing library left when it did not write the file (0 when it gave none).
+  int writeError() const { return writeError_; }
 
  private:
   bool buildAutomaticSymbol(const std::string& fileName);
@@ -39,6 +43,7 @@ class SymbolBuilder {
   std::string basePath_;
   const CnxDescription& description_;
   short instance_ = 0;  // the drawing library's instance, 0 when none
+  int writeError_ = 0;
 };
 
 }  // namespace plovix

@@ -1,6 +1,5 @@
-// Tests of text-mode reading and the atomic text-mode writer.
+// Tests of text-mode reading and writing (the safe writer itself is tested in SafeWriteTest).
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include "TempDir.h"
 #include "base/TextFile.h"
@@ -21,21 +20,6 @@ TEST(TextFile, WritesCrLfAndReadsItBack) {
   EXPECT_EQ(text, "one\ntwo\n");
   EXPECT_EQ(splitLines("a\n\nb"), (std::vector<std::string>{"a", "", "b"}));
   EXPECT_EQ(splitLines("a\n"), (std::vector<std::string>{"a"}));
-}
-
-TEST(TextFile, FailedWriteLeavesTheTargetAndNoTemporaryFile) {
-  TempDir temp;
-  int error = 0;
-  EXPECT_FALSE(writeTextFile(temp.path("missing/a.txt"), "x", error));
-  EXPECT_EQ(error, ENOENT);
-  temp.write("dir/keep", "");
-  EXPECT_FALSE(writeTextFile(temp.path("dir"), "x", error)) << "a directory is never replaced";
-  temp.write("old.txt", "old");
-  ASSERT_TRUE(writeTextFile(temp.path("old.txt"), "new", error));
-  EXPECT_EQ(temp.read("old.txt"), "new");
-  int count = 0;
-  for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(temp.dir())) ++count;
-  EXPECT_EQ(count, 2) << "no temporary file is left behind";
 }
 
 TEST(TextFile, AppendCreatesAndExtends) {

@@ -2,7 +2,11 @@
 // reading symbol files back.
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <cerrno>
+#include <filesystem>
 
 #include "GioTraceCapture.h"
 #include "TempDir.h"
@@ -212,6 +216,24 @@ TEST(SymbolFileReading, FileErrorsComeBackAsErrno) {
   EXPECT_EQ(sym_render_svg(dir.dir().c_str(), &svg, &errorNumber, &errorLine), 0);
   EXPECT_EQ(errorNumber, EISDIR);
   EXPECT_EQ(sym_render_svg(nullptr, &svg, &errorNumber, &errorLine), 0);
+}
+
+// A link planted where a writer might put its temporary file never leads the symbol's text elsewhere, and a
+// write-protected symbol file is not replaced: the call fails with errno saying why.
+TEST(SymbolFileWriting, GoesThroughTheSafeWriter) {
+  testing::TempDir dir;
+  dir.write("victim", "precious");
+  for (const std::string& planted : {"v.sym.tmp-" + std::to_string(getpid()), std::string("v.sym.tmp")})
+    std::filesystem::create_symlink(dir.path("victim"), dir.path(planted));
+  TestDrawing d;
+  gio_db_set_drawing_name(d.instance, dir.path("v.sym").c_str());
+  EXPECT_EQ(gio_write_drawing(d.instance), 1);
+  EXPECT_EQ(dir.read("victim"), "precious");
+  EXPECT_EQ(dir.read("v.sym").substr(0, 12), "PLOVIX-SYM 1");
+  chmod(dir.path("v.sym").c_str(), 0444);
+  errno = 0;
+  EXPECT_EQ(gio_write_drawing(d.instance), 0);
+  EXPECT_EQ(errno, EACCES);
 }
 
 }  // namespace

@@ -2,10 +2,16 @@
 // the command's status for each way a run ends, and the catalog listing (quitting, start failures and vendor
 // scripts are the launch tests').
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <spawn.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 
+#include <chrono>
 #include <cstring>
+#include <filesystem>
 #include <string>
+#include <thread>
 
 #include "PlovixRunner.h"
 #include "RecordingInterface.h"
@@ -143,6 +149,61 @@ TEST_F(PluginRunTest, ExitCodesDriveTheRun) {
       EXPECT_EQ(lib.read("args-2.txt"), variation() + "|\n-n|\n-symbol|\n");
     }
   }
+}
+
+// A file that cannot be written is reported with its cause and makes the status 3, the others are still
+// written, and the file stays as it was; a design file that cannot be written keeps the description.
+TEST_F(PluginRunTest, FilesNotWrittenAreReportedAndMakeTheStatus3) {
+  createVariation();
+  std::filesystem::copy_file("/bin/sleep", project.path("program"));
+  chmod(project.path("program").c_str(), 0755);
+  const std::string program = project.read("program");
+  struct Case {
+    const char* file;
+    Msg message;
+  };
+  for (const Case& c : {Case{"var.sym", Msg::kAccessDenied}, Case{"var.inc", Msg::kSharingViolation},
+                        Case{"var.tdf", Msg::kAccessDenied}}) {
+    const std::string path = project.path(c.file);
+    const std::string before = project.read(c.file);
+    pid_t running = -1;
+    if (c.message == Msg::kSharingViolation) {
+      std::filesystem::rename(project.path("program"), path);
+      std::string argv0 = path;
+      char seconds[] = "30";
+      char* argv[] = {argv0.data(), seconds, nullptr};
+      ASSERT_EQ(posix_spawn(&running, argv[0], nullptr, nullptr, argv, environ), 0);
+      std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    } else {
+      chmod(path.c_str(), 0444);
+    }
+    const PlovixResult result = run({variation()});
+    if (running > 0) {
+      kill(running, SIGKILL);
+      waitpid(running, nullptr, 0);
+    }
+    EXPECT_TRUE(result.exited(3)) << c.file << ": " << result.err;
+    EXPECT_NE(result.err.find(escapeBoxText(reported(c.message, path))), std::string::npos) << result.err;
+    EXPECT_EQ(project.read(c.file), running > 0 ? program : before) << c.file;
+    const bool designFile = std::string(c.file) == "var.tdf";
+    EXPECT_EQ(exists(project.path("var.cnx")), designFile) << c.file;
+    if (designFile) {
+      EXPECT_NE(
+          result.err.find(escapeBoxText(reported(Msg::kDescriptionKept, path, project.path("var.cnx")))),
+          std::string::npos)
+          << result.err;
+    }
+    std::filesystem::remove(path);
+  }
+}
+
+// The temporary file's name is short and fixed, so a base name near the system's limit is no obstacle.
+TEST_F(PluginRunTest, LongBaseNamesAreWritten) {
+  const std::string name(245, 'v');
+  const PlovixResult result = run({"--modulon", "REC", "--language", "thdl", project.path(name + ".tdf")});
+  EXPECT_TRUE(result.exited(0)) << result.err;
+  for (const char* suffix : {".tdf", ".inc", ".cmp", ".sym", "_inst.tdf"})
+    EXPECT_TRUE(exists(project.path(name + suffix))) << suffix;
 }
 
 TEST(ListModulons, PrintsTheCatalogAsATable) {
