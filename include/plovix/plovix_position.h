@@ -36,10 +36,15 @@ inline std::string formatPositionReport(int right, int bottom) {
   return std::to_string(kPositionReportMessage) + " " + std::to_string(right) + " " + std::to_string(bottom);
 }
 
+// Screen coordinates are 16-bit: a corner outside this range is no corner.
+inline constexpr int kPositionMinimum = -32768;
+inline constexpr int kPositionMaximum = 32767;
+
 // The corner of a report: exactly three words separated by blanks (space, tab, line feed, vertical tab, form
 // feed, carriage return; also allowed before the first and after the last), each decimal digits with an
-// optional leading "-", the first 1034 and the other two within the range of an int. Anything else gives
-// nothing. No arithmetic of its own: the numbers are read by std::from_chars, which reports an overflow.
+// optional leading "-", the first 1034 and the other two within the screen's 16-bit range. Anything else
+// gives nothing. No arithmetic of its own: the numbers are read by std::from_chars, which reports an
+// overflow.
 inline std::optional<PositionReport> parsePositionReport(std::string_view text) {
   constexpr std::string_view kBlanks = " \t\n\v\f\r";
   int values[3] = {};
@@ -57,6 +62,9 @@ inline std::optional<PositionReport> parsePositionReport(std::string_view text) 
     start = text.find_first_not_of(kBlanks, end);
   }
   if (count != 3 || values[0] != kPositionReportMessage) return std::nullopt;
+  for (const int value : {values[1], values[2]}) {
+    if (value < kPositionMinimum || value > kPositionMaximum) return std::nullopt;
+  }
   return PositionReport{values[1], values[2]};
 }
 

@@ -10,6 +10,7 @@
 #include "base/PathText.h"
 #include "base/Report.h"
 #include "base/TextHelpers.h"
+#include "entry/CommandWords.h"
 #include "entry/PluginLaunchParts.h"
 #include "platform/CommandLineWords.h"
 
@@ -39,42 +40,53 @@ std::string locatePluginProgram(UserInterface& ui, const std::string& program, c
   return pathWithoutExtension(program);
 }
 
-std::string pluginCommandLine(ManagerApp& app, UserInterface& ui, const std::string& command, long threadId) {
+std::vector<std::string> pluginArguments(ManagerApp& app, UserInterface& ui, const std::string& command,
+                                         long threadId) {
   const ManagerRun& run = app.run;
-  std::string arguments = trimLeft(command);
-  const std::string program = splitFirstToken(arguments, " \t");
-  const std::string home = run.catalog->findDirectory(run.modulonName);
-
-  std::string line = expandCommandMacros(app, locatePluginProgram(ui, program, home) + " " + arguments);
-  line += " \"" + run.outputPath() + "\"";
-  if (run.newFile) line += " -n ";
-  line += " -symbol ";
-  if (!run.extraArguments.empty()) line += " " + run.extraArguments + " ";
+  std::vector<std::string> words = pluginCommandWords(ui, commandContextOf(run), command);
+  words.push_back(run.outputPath());
+  if (run.newFile) words.push_back("-n");
+  words.push_back("-symbol");
+  for (std::string& word : splitCommandLine(run.extraArguments)) words.push_back(std::move(word));
   if (!run.directLaunch) {
-    // The line "%s -x%d -y%d -p2 -h%d", with the line itself appended as it is.
-    line += formatText(" -x%d -y%d -p2 -h%ld", app.corner.right, app.corner.bottom, threadId);
+    words.push_back(formatText("-x%d", app.corner.right));
+    words.push_back(formatText("-y%d", app.corner.bottom));
+    words.push_back("-p2");
+    words.push_back(formatText("-h%ld", threadId));
   }
-  return line;
+  return words;
 }
 
+namespace {
+
+// Says once in a run that the position channel's name is taken (the run goes on without the channel).
+void noteTakenChannel(ManagerRun& run, UserInterface& ui, const PositionChannel& channel, long threadId) {
+  if (!channel.nameTaken() || run.positionChannelNoted) return;
+  run.positionChannelNoted = true;
+  reportError(ui, Msg::kPositionChannelTaken, positionSocketName(threadId));
+}
+
+}  // namespace
+
 LaunchResult launchPlugin(ManagerApp& app, UserInterface& ui) {
-  const ManagerRun& run = app.run;
+  ManagerRun& run = app.run;
   const std::string command = run.catalog->findCommandLine(run.modulonName);
   if (command.empty()) {
     reportError(ui, Msg::kNoLaunchCommandLine, run.modulonName);
     return {};
   }
   const long threadId = currentThreadId();
-  const std::string line = pluginCommandLine(app, ui, command, threadId);
+  const std::vector<std::string> arguments = pluginArguments(app, ui, command, threadId);
 
   LaunchResult result;
   int quitSignal = 0;
   {
     QuitSignals quitSignals;
     PositionChannel channel(threadId);
+    noteTakenChannel(run, ui, channel, threadId);
     ChildProcess child;
     int errorNumber = 0;
-    if (!child.start(splitCommandLine(line), errorNumber)) {
+    if (!child.start(arguments, errorNumber)) {
       reportError(ui, Msg::kCannotStartPlugin, run.modulonName, std::strerror(errorNumber));
       return {};
     }
@@ -82,6 +94,11 @@ LaunchResult launchPlugin(ManagerApp& app, UserInterface& ui) {
     result.started = true;
     result.exitCode = waited.exitCode;
     quitSignal = waited.quitSignal;
+    // The run reads this as Cancel, as the exit code says; the user learns why.
+    if (waited.endSignal != 0) {
+      reportError(ui, Msg::kPluginEndedBySignal, run.modulonName, formatInt(waited.endSignal),
+                  strsignal(waited.endSignal));
+    }
   }
   // The quit request goes on to the host, as the signal it came as, once its hold has ended.
   if (quitSignal != 0) raise(quitSignal);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "base/UserInterface.h"
 #include "entry/ManagerApp.h"
@@ -12,13 +13,13 @@ namespace plovix {
 // Starts the plug-in of app.run.modulonName with its completed command line and waits for it.
 LaunchResult launchPlugin(ManagerApp& app, UserInterface& ui);
 
-// The command line with its %-codes replaced.
-std::string expandCommandMacros(const ManagerApp& app, const std::string& text);
-
 // Offers to run the modulon's vendor scripts and runs them on OK.
 void offerVendorScript(ManagerApp& app, UserInterface& ui);
 
-// Runs a command through the shell; false only when the shell cannot be started.
-bool runShellCommand(UserInterface& ui, const std::string& command, bool showMessage);
+// Runs a vendor script's command: its words (commandWords) started as a program, without any shell, and
+// waited for. False only when the program cannot be started (its exit status is not looked at), with the
+// message "Cannot execute the command line" naming `shownCommand` when `showMessage`.
+bool runScriptCommand(UserInterface& ui, const std::vector<std::string>& words,
+                      const std::string& shownCommand, bool showMessage);
 
 }  // namespace plovix

@@ -1,11 +1,11 @@
-// The vendor scripts a catalog attaches to a modulon, offered after generation and run through the shell.
-#include <cerrno>
-#include <cstdlib>
+// The vendor scripts a catalog attaches to a modulon, offered after generation and started without a shell.
 #include <cstring>
 
 #include "base/QuestionTexts.h"
 #include "base/TextHelpers.h"
+#include "entry/CommandWords.h"
 #include "entry/PluginLaunch.h"
+#include "platform/ChildProcess.h"
 
 namespace plovix {
 
@@ -16,20 +16,27 @@ void offerVendorScript(ManagerApp& app, UserInterface& ui) {
   std::string scripts = run.catalog->findScripts(run.modulonName);
   if (tool.empty() || scripts.empty()) return;
   if (!ui.ask(questions::runVendorScript(tool))) return;
+  const CommandContext context = commandContextOf(run);
   while (!scripts.empty()) {
-    const std::string command = expandCommandMacros(app, splitFirstToken(scripts, "+"));
-    if (!runShellCommand(ui, command, false)) {
-      ui.report(questions::vendorScriptFailed(command, tool));
+    const std::string script = splitFirstToken(scripts, "+");
+    // The expanded text is what the user reads; the words are what runs.
+    const std::string shown = expandCommandMacros(context, script);
+    if (!runScriptCommand(ui, commandWords(context, script), shown, false)) {
+      ui.report(questions::vendorScriptFailed(shown, tool));
       return;
     }
   }
 }
 
-bool runShellCommand(UserInterface& ui, const std::string& command, bool showMessage) {
-  errno = 0;
-  if (std::system(command.c_str()) != -1) return true;
-  const int errorNumber = errno;
-  if (showMessage) ui.report(questions::cannotExecuteCommand(command, std::strerror(errorNumber)));
+bool runScriptCommand(UserInterface& ui, const std::vector<std::string>& words,
+                      const std::string& shownCommand, bool showMessage) {
+  ChildProcess child;
+  int errorNumber = 0;
+  if (child.start(words, errorNumber)) {
+    child.waitForEnd();
+    return true;
+  }
+  if (showMessage) ui.report(questions::cannotExecuteCommand(shownCommand, std::strerror(errorNumber)));
   return false;
 }
 

@@ -30,7 +30,7 @@ PluginWaitResult waitForPlugin(ChildProcess& child, PositionChannel& channel, Qu
     }
     if (const int signal = quitSignals.take(); signal != 0) result.quitSignal = signal;
 
-    const bool ended = child.hasEnded(result.exitCode);
+    const bool ended = child.hasEnded(result.exitCode, true);
     // A plug-in that held the terminal got the user's Ctrl-C itself: the run is asked to quit as well.
     if (ended && child.endSignal() == SIGINT) result.quitSignal = SIGINT;
     if (result.quitSignal != 0 || !ui.processEvents()) {
@@ -38,7 +38,10 @@ PluginWaitResult waitForPlugin(ChildProcess& child, PositionChannel& channel, Qu
       result.exitCode = 2;
       return result;
     }
-    if (ended) return result;
+    if (ended) {
+      result.endSignal = child.endSignal();
+      return result;
+    }
   }
 }
 

@@ -45,10 +45,6 @@ class SpawnAttributes {
   posix_spawnattr_t attributes_;
 };
 
-int32_t exitCodeOf(int status) {
-  return WIFEXITED(status) ? WEXITSTATUS(status) : 2;
-}
-
 }  // namespace
 
 ChildProcess::~ChildProcess() {
@@ -85,19 +81,35 @@ bool ChildProcess::start(const std::vector<std::string>& arguments, int& errorNu
   return true;
 }
 
-bool ChildProcess::hasEnded(int32_t& exitCode) {
+bool ChildProcess::hasEnded(int32_t& exitCode, bool endGroup) {
   if (!reaped_) {
-    int status = 0;
-    const pid_t result = waitpid(pid_, &status, WNOHANG);
-    if (result == 0) return false;
-    reaped_ = true;
-    // A status the system could not give back (the child was collected elsewhere) counts as Cancel.
-    exitCode_ = result == pid_ ? exitCodeOf(status) : 2;
-    endSignal_ = result == pid_ && WIFSIGNALED(status) ? WTERMSIG(status) : 0;
-    closeDescriptor();
+    // Looked at without collecting it: an ended process stays a zombie that holds its group id.
+    siginfo_t info{};
+    const int looked = waitid(P_PID, static_cast<id_t>(pid_), &info, WEXITED | WNOHANG | WNOWAIT);
+    if ((looked == 0 && info.si_pid == 0) || (looked != 0 && errno == EINTR)) return false;
+    if (looked == 0 && endGroup) ::kill(-pid_, SIGKILL);
+    collect();
   }
   exitCode = exitCode_;
   return true;
+}
+
+int32_t ChildProcess::waitForEnd() {
+  if (!reaped_) collect();
+  return exitCode_;
+}
+
+void ChildProcess::collect() {
+  int status = 0;
+  pid_t result = -1;
+  do {
+    result = waitpid(pid_, &status, 0);
+  } while (result < 0 && errno == EINTR);
+  reaped_ = true;
+  // A status the system could not give back (the child was collected elsewhere) counts as Cancel.
+  exitCode_ = result == pid_ && WIFEXITED(status) ? WEXITSTATUS(status) : 2;
+  endSignal_ = result == pid_ && WIFSIGNALED(status) ? WTERMSIG(status) : 0;
+  closeDescriptor();
 }
 
 void ChildProcess::kill() {

@@ -1,4 +1,5 @@
-// A started program: its start in a process group of its own, the descriptor that signals its end, its exit.
+// A started program: its start in a process group of its own, the descriptor that signals its end, its exit,
+// and the end of what is left of its group.
 #pragma once
 
 #include <sys/types.h>
@@ -25,7 +26,12 @@ class ChildProcess {
   int endDescriptor() const { return pidFd_; }
 
   // True once the process has ended, with its exit code: the exit status, or 2 when a signal ended it.
-  bool hasEnded(int32_t& exitCode);
+  // With `endGroup`, whatever is left of its process group (children it left running) is ended (SIGKILL)
+  // before the process is collected, while its group id cannot yet be reused.
+  bool hasEnded(int32_t& exitCode, bool endGroup = false);
+
+  // Waits until the process has ended, without ending its group, and gives its exit code as hasEnded does.
+  int32_t waitForEnd();
 
   // The signal that ended the process, once hasEnded said so; 0 when it exited or was ended by kill().
   int endSignal() const { return endSignal_; }
@@ -37,6 +43,8 @@ class ChildProcess {
 
  private:
   void closeDescriptor();
+  // Collects the ended process and keeps its exit code and signal.
+  void collect();
 
   pid_t pid_ = -1;
   int pidFd_ = -1;

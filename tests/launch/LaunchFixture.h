@@ -6,10 +6,12 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "RecordingInterface.h"
 #include "TempDir.h"
 #include "base/PathText.h"
+#include "entry/CommandWords.h"
 #include "entry/ManagerApp.h"
 #include "entry/PluginLaunch.h"
 #include "entry/PluginLaunchParts.h"
@@ -46,9 +48,11 @@ class LaunchFixture : public ::testing::Test {
   }
 
   std::string outputPath() const { return app.run.outputPath(); }
-  std::string expand(const std::string& text) const { return expandCommandMacros(app, text); }
-  std::string commandLine(long threadId) {
-    return pluginCommandLine(app, ui, app.run.catalog->findCommandLine(app.run.modulonName), threadId);
+  std::string expand(const std::string& text) const {
+    return expandCommandMacros(commandContextOf(app.run), text);
+  }
+  std::vector<std::string> arguments(long threadId) {
+    return pluginArguments(app, ui, app.run.catalog->findCommandLine(app.run.modulonName), threadId);
   }
 
   TempDir lib;

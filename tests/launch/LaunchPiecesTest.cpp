@@ -47,10 +47,12 @@ TEST(FindProgram, SearchesThePathWithTheExeRuleAndJavaFallback) {
 
 TEST(PositionReport, ReadsOnlyWellFormedReports) {
   EXPECT_EQ(parsePositionReport(" 1034 640\t-480\n"), (PositionReport{640, -480}));
-  for (const PositionReport corner : {PositionReport{0, 0}, PositionReport{INT32_MIN, INT32_MAX}})
+  for (const PositionReport corner : {PositionReport{0, 0}, PositionReport{-32768, 32767}})
     EXPECT_EQ(parsePositionReport(formatPositionReport(corner.right, corner.bottom)), corner);
-  for (const char* bad : {"1035 1 2", "1034 1", "1034 1 2 3", "1034 a 2", "1034 1 2147483648", "1034 +1 2",
-                          "1034 - 2", "1034 1x 2", "99999999999 1 2", ""}) {
+  // Outside the screen's 16-bit range is no corner, so nothing downstream can overflow.
+  for (const char* bad :
+       {"1035 1 2", "1034 1", "1034 1 2 3", "1034 a 2", "1034 1 2147483648", "1034 +1 2", "1034 - 2",
+        "1034 1x 2", "99999999999 1 2", "", "1034 32768 0", "1034 0 -32769", "1034 -2147483648 2147483647"}) {
     EXPECT_FALSE(parsePositionReport(bad).has_value()) << bad;
   }
   EXPECT_FALSE(parsePositionReport(std::string_view("1034 1 2\0", 9)).has_value());
@@ -80,8 +82,8 @@ TEST_F(CommandLineTest, FindsTheProgramInTheCatalogDirectory) {
   testing::writeScript(lib, "wiz.exe", "exit 0\n");
   writeCatalog("M=wiz.exe -m %w#x\n");
   const std::string home = lib.dir().substr(0, lib.dir().size() - 1);
-  EXPECT_EQ(commandLine(77),
-            lib.dir() + "wiz -m " + home + "\nx \"" + outputPath() + "\" -n  -symbol  -x500 -y500 -p2 -h77");
+  EXPECT_EQ(arguments(77), (Words{lib.dir() + "wiz", "-m", home + "\nx", outputPath(), "-n", "-symbol",
+                                  "-x500", "-y500", "-p2", "-h77"}));
 }
 
 TEST_F(CommandLineTest, OptionsFollowTheRunsFlags) {
@@ -90,20 +92,36 @@ TEST_F(CommandLineTest, OptionsFollowTheRunsFlags) {
   app.run.newFile = false;
   app.run.directLaunch = true;
   app.run.extraArguments = "-a \"b c\"";
-  EXPECT_EQ(commandLine(5), lib.dir() + "wiz  \"" + outputPath() + "\" -symbol  -a \"b c\" ");
+  EXPECT_EQ(arguments(5), (Words{lib.dir() + "wiz", outputPath(), "-symbol", "-a", "b c"}));
   app.run.directLaunch = false;
   app.corner = {12, -3, true};
-  EXPECT_EQ(commandLine(5),
-            lib.dir() + "wiz  \"" + outputPath() + "\" -symbol  -a \"b c\"  -x12 -y-3 -p2 -h5");
+  EXPECT_EQ(arguments(5),
+            (Words{lib.dir() + "wiz", outputPath(), "-symbol", "-a", "b c", "-x12", "-y-3", "-p2", "-h5"}));
 }
 
 TEST_F(CommandLineTest, ProgramsFoundNowhereLoseOnlyTheirExtension) {
   writeCatalog("J=%j -jar x.jar\nO=sub/other.exe arg\n");
   app.run.modulonName = "J";
   app.run.directLaunch = true;
-  EXPECT_EQ(commandLine(1), "javaw -jar x.jar \"" + outputPath() + "\" -n  -symbol ");
+  EXPECT_EQ(arguments(1), (Words{"javaw", "-jar", "x.jar", outputPath(), "-n", "-symbol"}));
   app.run.modulonName = "O";
-  EXPECT_EQ(commandLine(1), "sub/other arg \"" + outputPath() + "\" -n  -symbol ");
+  EXPECT_EQ(arguments(1), (Words{"sub/other", "arg", outputPath(), "-n", "-symbol"}));
+}
+
+// Words are split before the %-codes are expanded, and the manager's own arguments are whole words, so no
+// path can split an argument or join two, whatever characters it holds.
+TEST_F(CommandLineTest, NoValueSplitsOrJoinsWords) {
+  writeCatalog("M=run -o%p \"%w/a b\" %c\n");
+  setenv("CLASSPATH", "x \"y\" z", 1);
+  app.run.directLaunch = true;
+  for (const char* directory : {"/p/a\" -evil \"b/", "/p/it's $(x) `y`/", "/p/back\\\" q/"}) {
+    app.run.directory = directory;
+    const std::string home = lib.dir().substr(0, lib.dir().size() - 1);
+    EXPECT_EQ(arguments(1), (Words{"run", "-o" + toBackslashes(outputPath()), home + "/a b", "x \"y\" z",
+                                   outputPath(), "-n", "-symbol"}))
+        << directory;
+  }
+  unsetenv("CLASSPATH");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <signal.h>
 #include <sys/socket.h>
 #include <sys/un.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -80,6 +81,26 @@ TEST_F(LaunchRunTest, ExitCodesComeBackAsTheirStatus) {
     EXPECT_TRUE(result.started) << name;
     EXPECT_EQ(result.exitCode, code) << name;
   }
+  // Only the death by a signal is worth a word.
+  EXPECT_EQ(ui.boxes,
+            (std::vector<std::string>{reported(Msg::kPluginEndedBySignal, "K", "9", strsignal(9))}));
+}
+
+// A process still running: not gone, and not a zombie waiting to be collected.
+bool processIsRunning(pid_t pid) {
+  const std::string stat = testing::TempDir::readFile("/proc/" + std::to_string(pid) + "/stat");
+  const size_t close = stat.rfind(')');
+  return close != std::string::npos && close + 2 < stat.size() && stat[close + 2] != 'Z';
+}
+
+TEST_F(LaunchRunTest, WhatThePluginLeftRunningEndsWithIt) {
+  writeScript(lib, "bg", "sleep 30 &\necho $! > \"$(dirname \"$0\")/pid\"\nexit 0\n");
+  writeCatalog("M=bg\n");
+  EXPECT_EQ(launch().exitCode, 0);
+  const pid_t child = readPid(lib.path("pid"));
+  for (int i = 0; i < 200 && processIsRunning(child); ++i)
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  EXPECT_FALSE(processIsRunning(child));
 }
 
 TEST_F(LaunchRunTest, StartFailuresAreReported) {
@@ -161,20 +182,61 @@ TEST_F(LaunchRunTest, PositionReportsUpdateTheWindowCorner) {
   EXPECT_EQ(app.corner.bottom, 600);
 }
 
+// A report from a process of another user never moves the window; this needs root to become another user.
+TEST_F(LaunchRunTest, OnlyReportsOfTheSameUserCount) {
+  if (geteuid() != 0) GTEST_SKIP() << "sending as another user needs root";
+  writeScript(lib, "wait", "while [ ! -e \"$(dirname \"$0\")/go\" ]; do sleep 0.02; done\n");
+  writeCatalog("M=wait\n");
+  const long threadId = currentThreadId();
+  std::thread plugin([&] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    const pid_t other = fork();
+    if (other == 0) {
+      if (setresgid(65534, 65534, 65534) == 0 && setresuid(65534, 65534, 65534) == 0)
+        sendReport(threadId, formatPositionReport(800, 600));
+      _exit(0);
+    }
+    waitpid(other, nullptr, 0);
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    lib.write("go", "");
+  });
+  launch();
+  plugin.join();
+  EXPECT_FALSE(app.corner.known);
+}
+
+TEST_F(LaunchRunTest, ATakenChannelNameIsNotedOnceAndTheRunGoesOn) {
+  writeScript(lib, "ok", "exit 0\n");
+  writeCatalog("M=ok\n");
+  const int squatter = socket(AF_UNIX, SOCK_DGRAM, 0);
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  const std::string name = positionSocketName(currentThreadId());
+  std::memcpy(address.sun_path + 1, name.data(), name.size());
+  ASSERT_EQ(bind(squatter, reinterpret_cast<const sockaddr*>(&address),
+                 static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + name.size())),
+            0);
+  EXPECT_EQ(launch().exitCode, 0);
+  EXPECT_EQ(launch().exitCode, 0);
+  close(squatter);
+  EXPECT_EQ(ui.boxes, (std::vector<std::string>{reported(Msg::kPositionChannelTaken, name)}));
+}
+
 class VendorScriptTest : public testing::LaunchFixture {
  protected:
-  void catalogWithScripts(const std::string& tool) {
-    writeCatalog("M=run\n<INFO>\n<NATIVE_TOOL NAME=\"" + tool + "\">\n<SCRIPT HREF=\"printf '%s' '%p' > '" +
-                 out.path("one") + "'\"/>\n<SCRIPT HREF=\"touch '" + out.path("two") +
-                 "'\"/>\n</NATIVE_TOOL>\n</INFO>\n");
+  // The first script records its arguments in "one" beside itself; the second makes "two".
+  void catalogWithScripts(const std::string& tool, const std::string& first = "sh %w/record.sh %p") {
+    writeScript(lib, "record.sh", "printf '%s|' \"$@\" > \"$(dirname \"$0\")/one\"\n");
+    writeCatalog("M=run\n<INFO>\n<NATIVE_TOOL NAME=\"" + tool + "\">\n<SCRIPT HREF=\"" + first +
+                 "\"/>\n<SCRIPT HREF=\"touch %w/two\"/>\n</NATIVE_TOOL>\n</INFO>\n");
   }
 };
 
 TEST_F(VendorScriptTest, RunsEveryScriptInOrderAfterOk) {
   catalogWithScripts("sh");
   offerVendorScript(app, ui);
-  EXPECT_EQ(out.read("one"), toBackslashes(outputPath()));
-  EXPECT_TRUE(fileExistsForTest(out.path("two")));
+  EXPECT_EQ(lib.read("one"), toBackslashes(outputPath()) + "|");
+  EXPECT_TRUE(fileExistsForTest(lib.path("two")));
   ASSERT_EQ(ui.boxes.size(), 1u);
   EXPECT_EQ(ui.boxes[0].substr(0, 9), "question:");
 }
@@ -186,26 +248,37 @@ TEST_F(VendorScriptTest, NothingRunsOnCancelOrWithoutTool) {
   writeCatalog("M=run\n");
   ui.defaultAnswer = true;
   offerVendorScript(app, ui);
-  EXPECT_FALSE(fileExistsForTest(out.path("one")));
+  EXPECT_FALSE(fileExistsForTest(lib.path("one")));
   EXPECT_EQ(ui.boxes.size(), 1u);
 }
 
-// With SIGCHLD ignored the shell's end cannot be collected, so the C library's call fails.
-TEST_F(VendorScriptTest, AFailedScriptStopsTheRestWithItsMessage) {
-  catalogWithScripts("mytool");
-  struct sigaction ignore {};
-  ignore.sa_handler = SIG_IGN;
-  struct sigaction previous {};
-  sigaction(SIGCHLD, &ignore, &previous);
+TEST_F(VendorScriptTest, AScriptThatCannotStartStopsTheRestWithItsMessage) {
+  catalogWithScripts("mytool", "no_such_program_xyz %p");
   offerVendorScript(app, ui);
-  const bool shown = runShellCommand(ui, "true", true);
-  sigaction(SIGCHLD, &previous, nullptr);
-  EXPECT_FALSE(shown);
-  EXPECT_FALSE(fileExistsForTest(out.path("two")));
-  const std::string first = "printf '%s' '" + toBackslashes(outputPath()) + "' > '" + out.path("one") + "'";
+  EXPECT_FALSE(runScriptCommand(ui, {"no_such_program_xyz"}, "shown text", true));
+  EXPECT_FALSE(fileExistsForTest(lib.path("two")));
   ASSERT_EQ(ui.boxes.size(), 3u);
-  EXPECT_EQ(ui.boxes[1], "report: " + questions::vendorScriptFailed(first, "mytool"));
-  EXPECT_EQ(ui.boxes[2], "report: " + questions::cannotExecuteCommand("true", std::strerror(ECHILD)));
+  EXPECT_EQ(ui.boxes[1], "report: " + questions::vendorScriptFailed(
+                                          "no_such_program_xyz " + toBackslashes(outputPath()), "mytool"));
+  EXPECT_EQ(ui.boxes[2], "report: " + questions::cannotExecuteCommand("shown text", std::strerror(ENOENT)));
+}
+
+// No shell ever reads a script line: a directory name built to break out of a shell's quotes (for the line
+// as it was quoted before, and for an unquoted one) reaches the script as data.
+TEST_F(VendorScriptTest, ScriptsNeverReachAShell) {
+  const struct {
+    const char* line;
+    const char* directory;
+  } cases[] = {{"sh '%w/record.sh' '%p'", "a'$(touch${IFS}INJECTED)'b"},
+               {"sh %w/record.sh %p", "a$(touch${IFS}INJECTED)b;touch${IFS}INJECTED"}};
+  for (const auto& c : cases) {
+    catalogWithScripts("sh", c.line);
+    app.run.directory = out.path(c.directory) + "/";
+    offerVendorScript(app, ui);
+    EXPECT_FALSE(fileExistsForTest("INJECTED")) << c.line;
+    std::remove("INJECTED");
+  }
+  EXPECT_EQ(lib.read("one"), toBackslashes(outputPath()) + "|");
 }
 
 }  // namespace
