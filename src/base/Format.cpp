@@ -1,34 +1,206 @@
-// Implementation of the printf-style formatting helper.
+// Implementation of the printf-style formatting helper. The format is walked here, conversion by conversion:
+// texts ("%s") are copied with size_t arithmetic, whatever their length, and only the numbers, whose output
+// is short, go through snprintf. So no text is ever too long to format, and nothing fails silently.
 #include "base/Format.h"
 
 #include <cstdarg>
+#include <cstdint>
 #include <cstdio>
-#include <vector>
+#include <cstring>
+#include <stdexcept>
+#include <string_view>
 
 namespace plovix {
+
+namespace {
+
+// One conversion specification: "%" flags width precision length conversion.
+struct Conversion {
+  std::string flags;
+  int width = -1;      // -1 when none
+  int precision = -1;  // -1 when none
+  std::string length;
+  char kind = '\0';
+};
+
+// Reads a decimal field of a format, which the compiler has checked; at most a few digits.
+int readNumber(const char*& p) {
+  int value = 0;
+  while (*p >= '0' && *p <= '9' && value < 100000) value = value * 10 + (*p++ - '0');
+  return value;
+}
+
+// The specification as snprintf reads it, with the widths fetched for "*" written out.
+std::string specText(const Conversion& c) {
+  std::string spec = "%" + c.flags;
+  if (c.width >= 0) spec += std::to_string(c.width);
+  if (c.precision >= 0) spec += "." + std::to_string(c.precision);
+  return spec + c.length + c.kind;
+}
+
+// One number formatted by snprintf; its output is bounded by the width and precision, both ints.
+template <typename T>
+void appendNumber(std::string& out, const Conversion& c, T value) {
+  const std::string spec = specText(c);
+  char small[128];
+  const int needed = std::snprintf(small, sizeof small, spec.c_str(), value);
+  if (needed < 0) throw std::length_error("formatText: a number cannot be formatted with " + spec);
+  if (static_cast<size_t>(needed) < sizeof small) {
+    out.append(small, static_cast<size_t>(needed));
+    return;
+  }
+  std::string big(static_cast<size_t>(needed) + 1, '\0');
+  std::snprintf(big.data(), big.size(), spec.c_str(), value);
+  out.append(big.data(), static_cast<size_t>(needed));
+}
+
+// A text, with the precision cutting it and the width padding it ("-" pads on the right).
+void appendText(std::string& out, const Conversion& c, const char* text) {
+  if (text == nullptr) text = "(null)";
+  const size_t length =
+      c.precision >= 0 ? strnlen(text, static_cast<size_t>(c.precision)) : std::strlen(text);
+  const size_t width = c.width > 0 ? static_cast<size_t>(c.width) : 0;
+  const size_t padding = width > length ? width - length : 0;
+  const bool left = c.flags.find('-') != std::string::npos;
+  if (!left) out.append(padding, ' ');
+  out.append(text, length);
+  if (left) out.append(padding, ' ');
+}
+
+// Reads the specification after a "%"; the arguments for "*" are fetched from `args`.
+Conversion readConversion(const char*& p, va_list& args) {
+  Conversion c;
+  while (*p != '\0' && std::strchr("-+ #0'", *p) != nullptr) c.flags += *p++;
+  if (*p == '*') {
+    ++p;
+    c.width = va_arg(args, int);
+    if (c.width < 0) {
+      c.flags += '-';
+      c.width = c.width == INT32_MIN ? INT32_MAX : -c.width;
+    }
+  } else if (*p >= '0' && *p <= '9') {
+    c.width = readNumber(p);
+  }
+  if (*p == '.') {
+    ++p;
+    if (*p == '*') {
+      ++p;
+      c.precision = va_arg(args, int);
+      if (c.precision < 0) c.precision = -1;
+    } else {
+      c.precision = readNumber(p);
+    }
+  }
+  while (*p != '\0' && std::strchr("hlLqjzt", *p) != nullptr) c.length += *p++;
+  c.kind = *p;
+  if (*p != '\0') ++p;
+  return c;
+}
+
+void appendConversion(std::string& out, const Conversion& c, va_list& args) {
+  const std::string_view length = c.length;
+  switch (c.kind) {
+    case 's':
+      appendText(out, c, va_arg(args, const char*));
+      return;
+    case '%':
+      out += '%';
+      return;
+    case 'c':
+      appendNumber(out, c, va_arg(args, int));
+      return;
+    case 'p':
+      appendNumber(out, c, va_arg(args, void*));
+      return;
+    case 'd':
+    case 'i':
+    case 'u':
+    case 'x':
+    case 'X':
+    case 'o':
+      if (length == "ll" || length == "q") {
+        appendNumber(out, c, va_arg(args, long long));
+      } else if (length == "l") {
+        appendNumber(out, c, va_arg(args, long));
+      } else if (length == "z") {
+        appendNumber(out, c, va_arg(args, size_t));
+      } else if (length == "j") {
+        appendNumber(out, c, va_arg(args, intmax_t));
+      } else if (length == "t") {
+        appendNumber(out, c, va_arg(args, ptrdiff_t));
+      } else {
+        appendNumber(out, c, va_arg(args, int));  // hh and h arrive promoted to int
+      }
+      return;
+    case 'f':
+    case 'F':
+    case 'e':
+    case 'E':
+    case 'g':
+    case 'G':
+    case 'a':
+    case 'A':
+      if (length == "L") {
+        appendNumber(out, c, va_arg(args, long double));
+      } else {
+        appendNumber(out, c, va_arg(args, double));
+      }
+      return;
+    default:
+      throw std::invalid_argument(std::string("formatText: unsupported conversion ") + specText(c));
+  }
+}
+
+// Appends the formatted text to `out`, walking the format once.
+void appendFormattedList(std::string& out, const char* format, va_list arguments) {
+  va_list args;
+  va_copy(args, arguments);
+  try {
+    const char* p = format;
+    while (*p != '\0') {
+      const char* percent = std::strchr(p, '%');
+      if (percent == nullptr) {
+        out.append(p);
+        break;
+      }
+      out.append(p, static_cast<size_t>(percent - p));
+      p = percent + 1;
+      const Conversion c = readConversion(p, args);
+      appendConversion(out, c, args);
+    }
+  } catch (...) {
+    va_end(args);
+    throw;
+  }
+  va_end(args);
+}
+
+}  // namespace
 
 std::string formatText(const char* format, ...) {
   va_list args;
   va_start(args, format);
-  va_list copy;
-  va_copy(copy, args);
-  char small[512];
-  const int needed = std::vsnprintf(small, sizeof small, format, args);
+  std::string out;
+  try {
+    appendFormattedList(out, format, args);
+  } catch (...) {
+    va_end(args);
+    throw;
+  }
   va_end(args);
-  std::string result;
-  if (needed < 0) {
-    va_end(copy);
-    return result;
+  return out;
+}
+
+void appendFormatted(std::string& out, const char* format, ...) {
+  va_list args;
+  va_start(args, format);
+  try {
+    appendFormattedList(out, format, args);
+  } catch (...) {
+    va_end(args);
+    throw;
   }
-  if (static_cast<size_t>(needed) < sizeof small) {
-    result.assign(small, static_cast<size_t>(needed));
-  } else {
-    std::vector<char> big(static_cast<size_t>(needed) + 1);
-    std::vsnprintf(big.data(), big.size(), format, copy);
-    result.assign(big.data(), static_cast<size_t>(needed));
-  }
-  va_end(copy);
-  return result;
+  va_end(args);
 }
 
 void appendFormatted(std::string& out, const char* format, ...) {

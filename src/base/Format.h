@@ -10,7 +10,10 @@
 
 namespace plovix {
 
-// Formats like printf and returns the result as a byte string.
+// Formats like printf and returns the result as a byte string. Texts of any length are copied whole (their
+// sizes are size_t), so the result never depends on an int's range; a conversion that cannot be made
+// throws (std::invalid_argument for one this helper does not know, std::length_error for a number that
+// cannot be formatted) instead of giving a short or empty text.
 std::string formatText(const char* format, ...) __attribute__((format(printf, 1, 2)));
 
 // Formats like formatText and appends the result to `out`, with no text of its own in between: for the many

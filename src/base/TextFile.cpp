@@ -28,7 +28,7 @@ std::string fromTextMode(std::string_view bytes) {
   return out;
 }
 
-bool readFileBytes(const std::string& path, std::string& bytes, int& errorNumber) {
+bool readFileBytes(const std::string& path, std::string& bytes, int& errorNumber, size_t maxBytes) {
   bytes.clear();
   errorNumber = 0;
   std::FILE* file = std::fopen(path.c_str(), "rb");
@@ -42,7 +42,14 @@ bool readFileBytes(const std::string& path, std::string& bytes, int& errorNumber
     bytes.reserve(static_cast<size_t>(status.st_size));
   char buffer[65536];
   size_t n = 0;
-  while ((n = std::fread(buffer, 1, sizeof buffer, file)) > 0) bytes.append(buffer, n);
+  while ((n = std::fread(buffer, 1, sizeof buffer, file)) > 0) {
+    if (n > maxBytes - bytes.size()) {
+      std::fclose(file);
+      errorNumber = EFBIG;
+      return false;
+    }
+    bytes.append(buffer, n);
+  }
   const bool failed = std::ferror(file) != 0;
   const int readError = errno;
   std::fclose(file);
@@ -53,8 +60,8 @@ bool readFileBytes(const std::string& path, std::string& bytes, int& errorNumber
   return true;
 }
 
-bool readTextFile(const std::string& path, std::string& text, int& errorNumber) {
-  if (!readFileBytes(path, text, errorNumber)) return false;
+bool readTextFile(const std::string& path, std::string& text, int& errorNumber, size_t maxBytes) {
+  if (!readFileBytes(path, text, errorNumber, maxBytes)) return false;
   // Each "\r\n" made "\n" in place, without a copy.
   size_t kept = 0;
   for (size_t i = 0; i < text.size(); ++i) {

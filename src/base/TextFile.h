@@ -11,11 +11,14 @@ namespace plovix {
 std::string toTextMode(std::string_view text);
 std::string fromTextMode(std::string_view bytes);
 
-// Reads a whole file as it is stored. On failure returns false and sets `errorNumber`.
-bool readFileBytes(const std::string& path, std::string& bytes, int& errorNumber);
+// Reads a whole file as it is stored. On failure returns false and sets `errorNumber`; a file of more than
+// `maxBytes` bytes is not read further and fails with EFBIG.
+bool readFileBytes(const std::string& path, std::string& bytes, int& errorNumber,
+                   size_t maxBytes = std::string::npos);
 
-// Reads a whole file in text mode. On failure returns false and sets `errorNumber`.
-bool readTextFile(const std::string& path, std::string& text, int& errorNumber);
+// Reads a whole file in text mode, with the same limit.
+bool readTextFile(const std::string& path, std::string& text, int& errorNumber,
+                  size_t maxBytes = std::string::npos);
 
 // Splits a text into lines without their line ends; a last line without "\n" counts, an empty tail does not.
 std::vector<std::string> splitLines(std::string_view text);

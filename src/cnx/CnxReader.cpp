@@ -2,14 +2,18 @@
 #include "cnx/CnxReader.h"
 
 #include <array>
+#include <cerrno>
+#include <string_view>
 #include <unordered_set>
 
 #include "base/FileSystem.h"
+#include "base/Format.h"
 #include "base/Messages.h"
 #include "base/Report.h"
 #include "base/TextFile.h"
 #include "cnx/CnxLineReader.h"
 #include "cnx/CnxStatements.h"
+#include "cnx/DescriptionLimits.h"
 #include "cnx/ErrorLog.h"
 
 namespace plovix {
@@ -77,6 +81,18 @@ bool readLines(CnxOperands& in, CnxLine& line, TextLineCursor& lines, CnxDescrip
   return readBody(in, line, lines, build);
 }
 
+// The number of the first line longer than the limit, 0 when there is none.
+size_t firstOverlongLine(std::string_view text) {
+  size_t number = 1;
+  for (size_t start = 0; start < text.size(); ++number) {
+    size_t end = text.find('\n', start);
+    if (end == std::string_view::npos) end = text.size();
+    if (end - start > kMaxDescriptionLineBytes) return number;
+    start = end + 1;
+  }
+  return 0;
+}
+
 }  // namespace
 
 CnxReader::CnxReader(UserInterface& ui, std::string cnxPath)
@@ -94,8 +110,18 @@ bool CnxReader::read() {
   log.add(line.counter, line.rest, {});  // the banner
   std::string text;
   int errorNumber = 0;
-  if (!readTextFile(description_.cnxPath, text, errorNumber)) {
-    reportFileErrno(ui_, errorNumber, description_.cnxPath);
+  if (!readTextFile(description_.cnxPath, text, errorNumber, kMaxDescriptionBytes)) {
+    if (errorNumber == EFBIG) {
+      reportError(ui_, Msg::kDescriptionTooLarge, description_.cnxPath,
+                  formatInt(static_cast<long long>(kMaxDescriptionBytes)));
+    } else {
+      reportFileErrno(ui_, errorNumber, description_.cnxPath);
+    }
+    return false;
+  }
+  if (const size_t number = firstOverlongLine(text)) {
+    reportError(ui_, Msg::kDescriptionLineTooLong, formatInt(static_cast<long long>(number)),
+                description_.cnxPath, formatInt(static_cast<long long>(kMaxDescriptionLineBytes)));
     return false;
   }
   description_.retrievedStatements = retrievedStatementsOf(text);

@@ -1,6 +1,9 @@
 // Tests of the small text operations: tokens, integers, bound expressions and literals.
 #include <gtest/gtest.h>
 
+#include <cstdio>
+#include <string>
+
 #include "base/Format.h"
 #include "base/TextHelpers.h"
 
@@ -74,9 +77,26 @@ TEST(TextHelpers, TrimmingAndConversions) {
   EXPECT_EQ(atoiText("  -42abc"), -42);
   EXPECT_EQ(atoiText("abc"), 0);
   EXPECT_EQ(replaceAll("a/b/c", "/", "\\"), "a\\b\\c");
-  EXPECT_EQ(formatText("%s+%d", "N", 7), "N+7");
   EXPECT_TRUE(isTrueText("TRUE"));
   EXPECT_FALSE(isTrueText("true"));
+}
+
+// formatText walks the format itself: it must give what printf gives, for texts of any size.
+TEST(TextHelpers, FormatTextGivesWhatPrintfGives) {
+  const std::string big(1 << 20, 'b');
+  char expected[256];
+  const auto same = [&](const std::string& got, int length) { return got == std::string(expected, length); };
+  EXPECT_TRUE(same(
+      formatText("%s+%d|%5s|%-4s|%.2s|%*d", "N", 7, "ab", "c", "xyz", 4, -3),
+      std::snprintf(expected, sizeof expected, "%s+%d|%5s|%-4s|%.2s|%*d", "N", 7, "ab", "c", "xyz", 4, -3)));
+  EXPECT_TRUE(
+      same(formatText("%lld %+lld %.2d %X %u %ld %c %% %zu", -9LL, 5LL, 3, 255u, 4u, -1L, 'q', size_t{7}),
+           std::snprintf(expected, sizeof expected, "%lld %+lld %.2d %X %u %ld %c %% %zu", -9LL, 5LL, 3, 255u,
+                         4u, -1L, 'q', size_t{7})));
+  EXPECT_EQ(formatText("<%s>%s", big.c_str(), "."), "<" + big + ">.");
+  std::string out = "x";
+  appendFormatted(out, "%s-%d", "y", 1);
+  EXPECT_EQ(out, "xy-1");
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include "CnxFixture.h"
 #include "base/FileSystem.h"
+#include "cnx/DescriptionLimits.h"
 #include "cnx/RetrievalInfo.h"
 
 namespace plovix::testing {
@@ -79,6 +80,20 @@ TEST_F(MalformedInputTest, StrayQuotesAndMarksAreLoggedAsTheirStatementsFail) {
   // with an empty text is dropped without an entry; the BOX's lone quote is its empty font.
   ASSERT_EQ(description.symbolElements.size(), 1u);
   EXPECT_EQ(std::get<SymbolBox>(description.symbolElements[0].record).font, "");
+}
+
+// A description beyond the size limits is refused with its own message before anything is read from it, so
+// that no text built from it can overflow (the run then generates nothing and changes no file).
+TEST_F(MalformedInputTest, OversizedDescriptionsAreRefused) {
+  const std::string path = temp.path("var.cnx");
+  EXPECT_FALSE(read(kCnxHead + "MODULE: " + std::string(kMaxDescriptionLineBytes, 'm') + "\n"));
+  EXPECT_TRUE(read(kCnxHead + "MODULE: " + std::string(kMaxDescriptionLineBytes - 8, 'm') + "\n"));
+  std::filesystem::resize_file(path, kMaxDescriptionBytes + 1);
+  EXPECT_FALSE(readFile("var.cnx"));
+  EXPECT_EQ(ui.boxes,
+            (std::vector<std::string>{
+                reported(Msg::kDescriptionLineTooLong, "3", path, std::to_string(kMaxDescriptionLineBytes)),
+                reported(Msg::kDescriptionTooLarge, path, std::to_string(kMaxDescriptionBytes))}));
 }
 
 }  // namespace
