@@ -1,26 +1,33 @@
 // Implementation of the printf-style formatting helper. The format is walked here, conversion by conversion:
 // texts ("%s") are copied with size_t arithmetic, whatever their length, and only the numbers, whose output
-// is short, go through snprintf. So no text is ever too long to format, and nothing fails silently.
+// is short, go through snprintf (plain decimal ones are written directly). So no text is ever too long to
+// format, and nothing fails silently.
 #include "base/Format.h"
 
+#include <charconv>
 #include <cstdarg>
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <stdexcept>
 #include <string_view>
+#include <type_traits>
 
 namespace plovix {
 
 namespace {
 
-// One conversion specification: "%" flags width precision length conversion.
+// One conversion specification: "%" flags width precision length conversion. The flags and the length are
+// views into the format.
 struct Conversion {
-  std::string flags;
+  std::string_view flags;
+  bool left = false;   // "-" among the flags, or a negative width given by "*"
   int width = -1;      // -1 when none
   int precision = -1;  // -1 when none
-  std::string length;
+  std::string_view length;
   char kind = '\0';
+  bool plain() const { return flags.empty() && !left && width < 0 && precision < 0; }
 };
 
 // Reads a decimal field of a format, which the compiler has checked; at most a few digits.
@@ -32,15 +39,28 @@ int readNumber(const char*& p) {
 
 // The specification as snprintf reads it, with the widths fetched for "*" written out.
 std::string specText(const Conversion& c) {
-  std::string spec = "%" + c.flags;
+  std::string spec = "%";
+  spec += c.flags;
+  if (c.left) spec += '-';
   if (c.width >= 0) spec += std::to_string(c.width);
   if (c.precision >= 0) spec += "." + std::to_string(c.precision);
-  return spec + c.length + c.kind;
+  spec += c.length;
+  return spec + c.kind;
 }
 
-// One number formatted by snprintf; its output is bounded by the width and precision, both ints.
+// One number. A plain decimal one is written directly; the others go through snprintf, whose output is
+// bounded by the width and precision, both ints.
 template <typename T>
 void appendNumber(std::string& out, const Conversion& c, T value) {
+  if constexpr (std::is_integral_v<T>) {
+    if (c.plain() && c.kind != 'X' && c.kind != 'c') {
+      char digits[64];
+      const int base = c.kind == 'x' ? 16 : c.kind == 'o' ? 8 : 10;
+      const std::to_chars_result written = std::to_chars(digits, digits + sizeof digits, value, base);
+      out.append(digits, static_cast<size_t>(written.ptr - digits));
+      return;
+    }
+  }
   const std::string spec = specText(c);
   char small[128];
   const int needed = std::snprintf(small, sizeof small, spec.c_str(), value);
@@ -61,21 +81,22 @@ void appendText(std::string& out, const Conversion& c, const char* text) {
       c.precision >= 0 ? strnlen(text, static_cast<size_t>(c.precision)) : std::strlen(text);
   const size_t width = c.width > 0 ? static_cast<size_t>(c.width) : 0;
   const size_t padding = width > length ? width - length : 0;
-  const bool left = c.flags.find('-') != std::string::npos;
-  if (!left) out.append(padding, ' ');
+  if (!c.left) out.append(padding, ' ');
   out.append(text, length);
-  if (left) out.append(padding, ' ');
+  if (c.left) out.append(padding, ' ');
 }
 
 // Reads the specification after a "%"; the arguments for "*" are fetched from `args`.
 Conversion readConversion(const char*& p, va_list& args) {
   Conversion c;
-  while (*p != '\0' && std::strchr("-+ #0'", *p) != nullptr) c.flags += *p++;
+  const char* flags = p;
+  while (*p != '\0' && std::strchr("-+ #0'", *p) != nullptr) c.left = *p++ == '-' || c.left;
+  c.flags = std::string_view(flags, static_cast<size_t>(p - flags));
   if (*p == '*') {
     ++p;
     c.width = va_arg(args, int);
     if (c.width < 0) {
-      c.flags += '-';
+      c.left = true;
       c.width = c.width == INT32_MIN ? INT32_MAX : -c.width;
     }
   } else if (*p >= '0' && *p <= '9') {
@@ -91,17 +112,56 @@ Conversion readConversion(const char*& p, va_list& args) {
       c.precision = readNumber(p);
     }
   }
-  while (*p != '\0' && std::strchr("hlLqjzt", *p) != nullptr) c.length += *p++;
+  const char* length = p;
+  while (*p != '\0' && std::strchr("hlLqjzt", *p) != nullptr) ++p;
+  c.length = std::string_view(length, static_cast<size_t>(p - length));
   c.kind = *p;
   if (*p != '\0') ++p;
   return c;
 }
 
-void appendConversion(std::string& out, const Conversion& c, va_list& args) {
+// A signed or unsigned integer argument of the conversion's length.
+template <bool kSigned>
+void appendInteger(std::string& out, const Conversion& c, va_list& args) {
+  // The argument types of each length, named first: va_arg takes no commas.
+  using Int = std::conditional_t<kSigned, int, unsigned>;
+  using Long = std::conditional_t<kSigned, long, unsigned long>;
+  using LongLong = std::conditional_t<kSigned, long long, unsigned long long>;
+  using Size = std::conditional_t<kSigned, std::make_signed_t<size_t>, size_t>;
+  using Max = std::conditional_t<kSigned, intmax_t, uintmax_t>;
+  using Difference = std::conditional_t<kSigned, ptrdiff_t, std::make_unsigned_t<ptrdiff_t>>;
+  using Char = std::conditional_t<kSigned, signed char, unsigned char>;
+  using Short = std::conditional_t<kSigned, short, unsigned short>;
   const std::string_view length = c.length;
+  if (length == "ll" || length == "q") {
+    appendNumber(out, c, va_arg(args, LongLong));
+  } else if (length == "l") {
+    appendNumber(out, c, va_arg(args, Long));
+  } else if (length == "z") {
+    appendNumber(out, c, va_arg(args, Size));
+  } else if (length == "j") {
+    appendNumber(out, c, va_arg(args, Max));
+  } else if (length == "t") {
+    appendNumber(out, c, va_arg(args, Difference));
+  } else if (length == "hh") {
+    // Arrives promoted to int; printf shows it converted back.
+    appendNumber(out, c, static_cast<Char>(va_arg(args, int)));
+  } else if (length == "h") {
+    appendNumber(out, c, static_cast<Short>(va_arg(args, int)));
+  } else {
+    appendNumber(out, c, va_arg(args, Int));
+  }
+}
+
+void appendConversion(std::string& out, const Conversion& c, va_list& args) {
   switch (c.kind) {
     case 's':
-      appendText(out, c, va_arg(args, const char*));
+      if (c.plain()) {
+        const char* text = va_arg(args, const char*);
+        out.append(text != nullptr ? text : "(null)");
+      } else {
+        appendText(out, c, va_arg(args, const char*));
+      }
       return;
     case '%':
       out += '%';
@@ -114,23 +174,13 @@ void appendConversion(std::string& out, const Conversion& c, va_list& args) {
       return;
     case 'd':
     case 'i':
+      appendInteger<true>(out, c, args);
+      return;
     case 'u':
     case 'x':
     case 'X':
     case 'o':
-      if (length == "ll" || length == "q") {
-        appendNumber(out, c, va_arg(args, long long));
-      } else if (length == "l") {
-        appendNumber(out, c, va_arg(args, long));
-      } else if (length == "z") {
-        appendNumber(out, c, va_arg(args, size_t));
-      } else if (length == "j") {
-        appendNumber(out, c, va_arg(args, intmax_t));
-      } else if (length == "t") {
-        appendNumber(out, c, va_arg(args, ptrdiff_t));
-      } else {
-        appendNumber(out, c, va_arg(args, int));  // hh and h arrive promoted to int
-      }
+      appendInteger<false>(out, c, args);
       return;
     case 'f':
     case 'F':
@@ -140,7 +190,7 @@ void appendConversion(std::string& out, const Conversion& c, va_list& args) {
     case 'G':
     case 'a':
     case 'A':
-      if (length == "L") {
+      if (c.length == "L") {
         appendNumber(out, c, va_arg(args, long double));
       } else {
         appendNumber(out, c, va_arg(args, double));

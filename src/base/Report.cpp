@@ -58,16 +58,16 @@ std::string errorMessage(Msg id, const std::string& a1, const std::string& a2, c
   const std::string_view text = errorText(id);
   const std::string* args[] = {&a1, &a2, &a3, &a4, &a5};
   std::string out;
+  out.reserve(text.size() + a1.size() + a2.size() + a3.size() + a4.size() + a5.size());
   size_t next = 0;
-  for (size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '%' && i + 1 < text.size() && text[i + 1] == 's') {
-      if (next < 5) out += *args[next];
-      ++next;
-      ++i;
-    } else {
-      out += text[i];
-    }
+  size_t copied = 0;
+  for (size_t at = text.find("%s"); at != std::string_view::npos; at = text.find("%s", copied)) {
+    out.append(text, copied, at - copied);
+    if (next < 5) out += *args[next];
+    ++next;
+    copied = at + 2;
   }
+  out.append(text, copied, std::string_view::npos);
   return out;
 }
 

@@ -20,7 +20,9 @@ std::string trimRight(std::string_view text) {
 }
 
 std::string trimText(std::string_view text) {
-  return trimLeft(trimRight(text));
+  const size_t first = text.find_first_not_of(kBlankCharacters);
+  if (first == std::string_view::npos) return {};
+  return std::string(text.substr(first, text.find_last_not_of(kBlankCharacters) - first + 1));
 }
 
 std::string toLowerText(std::string_view text) {

@@ -89,10 +89,11 @@ TEST(TextHelpers, FormatTextGivesWhatPrintfGives) {
   EXPECT_TRUE(same(
       formatText("%s+%d|%5s|%-4s|%.2s|%*d", "N", 7, "ab", "c", "xyz", 4, -3),
       std::snprintf(expected, sizeof expected, "%s+%d|%5s|%-4s|%.2s|%*d", "N", 7, "ab", "c", "xyz", 4, -3)));
-  EXPECT_TRUE(
-      same(formatText("%lld %+lld %.2d %X %u %ld %c %% %zu", -9LL, 5LL, 3, 255u, 4u, -1L, 'q', size_t{7}),
-           std::snprintf(expected, sizeof expected, "%lld %+lld %.2d %X %u %ld %c %% %zu", -9LL, 5LL, 3, 255u,
-                         4u, -1L, 'q', size_t{7})));
+  EXPECT_TRUE(same(formatText("%lld %+lld %.2d %X %x %o %u %ld %c %% %zu %hhd %hu %-3d|%05.1f", -9LL, 5LL, 3,
+                              255u, -1, 8u, 4u, -1L, 'q', size_t{7}, 300, 70000, 2, 1.25),
+                   std::snprintf(expected, sizeof expected,
+                                 "%lld %+lld %.2d %X %x %o %u %ld %c %% %zu %hhd %hu %-3d|%05.1f", -9LL, 5LL,
+                                 3, 255u, -1, 8u, 4u, -1L, 'q', size_t{7}, 300, 70000, 2, 1.25)));
   EXPECT_EQ(formatText("<%s>%s", big.c_str(), "."), "<" + big + ">.");
   std::string out = "x";
   appendFormatted(out, "%s-%d", "y", 1);
