@@ -1,4 +1,4 @@
-// The C entry for pictures: reads a .sym file and hands back its SVG text.
+// The C entries for pictures: a .sym file or text in memory, handed back as SVG text.
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -29,6 +29,24 @@ bool readWholeFile(const char* path, std::string& text, int& errorNumber) {
 
 }  // namespace
 
+extern "C" int sym_render_svg_text(const char* text, size_t size, char** svg, int* errorLine) {
+  if (svg != nullptr) *svg = nullptr;
+  if (errorLine != nullptr) *errorLine = 0;
+  if (text == nullptr || svg == nullptr) return 0;
+  plovix::gio::Drawing drawing;
+  int badLine = 0;
+  if (!plovix::sym::parseSymText(std::string(text, size), drawing, badLine)) {
+    if (errorLine != nullptr) *errorLine = badLine;
+    return 0;
+  }
+  const std::string picture = plovix::sym::renderSvg(drawing);
+  char* copy = static_cast<char*>(std::malloc(picture.size() + 1));
+  if (copy == nullptr) return 0;
+  std::memcpy(copy, picture.c_str(), picture.size() + 1);
+  *svg = copy;
+  return 1;
+}
+
 extern "C" int sym_render_svg(const char* symPath, char** svg, int* errorNumber, int* errorLine) {
   if (svg != nullptr) *svg = nullptr;
   if (errorNumber != nullptr) *errorNumber = 0;
@@ -40,21 +58,9 @@ extern "C" int sym_render_svg(const char* symPath, char** svg, int* errorNumber,
     if (errorNumber != nullptr) *errorNumber = readError;
     return 0;
   }
-  plovix::gio::Drawing drawing;
-  int badLine = 0;
-  if (!plovix::sym::parseSymText(text, drawing, badLine)) {
-    if (errorLine != nullptr) *errorLine = badLine;
-    return 0;
-  }
-  const std::string picture = plovix::sym::renderSvg(drawing);
-  char* copy = static_cast<char*>(std::malloc(picture.size() + 1));
-  if (copy == nullptr) {
-    if (errorNumber != nullptr) *errorNumber = ENOMEM;
-    return 0;
-  }
-  std::memcpy(copy, picture.c_str(), picture.size() + 1);
-  *svg = copy;
-  return 1;
+  if (sym_render_svg_text(text.data(), text.size(), svg, errorLine) != 0) return 1;
+  if (errorNumber != nullptr && (errorLine == nullptr || *errorLine == 0)) *errorNumber = ENOMEM;
+  return 0;
 }
 
 extern "C" void sym_free_text(char* text) {

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds plovix and runs every test: the normal build, then every test again under ASan and UBSan (without Qt).
+# Builds plovix and runs every test: the normal build, then every test again under ASan and UBSan (without Qt),
+# then every fuzz target for a few seconds (scripts/fuzz.sh).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 jobs=$(nproc)
@@ -17,4 +18,11 @@ if [ "${PLOVIX_SKIP_SANITIZERS:-0}" != 1 ]; then
   cmake --build build-sanitize -j "$jobs"
   ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
     ctest --test-dir build-sanitize --output-on-failure -j "$jobs"
+fi
+if [ "${PLOVIX_SKIP_FUZZ:-0}" != 1 ]; then
+  for source in fuzz/*.cpp; do
+    target=$(basename "$source" .cpp)
+    [ "$target" = ReplayMain ] && continue
+    PLOVIX_FUZZ_BUILD_JOBS=$jobs bash scripts/fuzz.sh "$target" "${PLOVIX_FUZZ_SECONDS:-5}"
+  done
 fi

@@ -3,6 +3,8 @@
 #ifndef PLOVIX_HOST_H
 #define PLOVIX_HOST_H
 
+#include <stddef.h>
+
 #ifdef __cplusplus
 extern "C" {
 #endif
@@ -164,6 +166,9 @@ PLOVIX_HOST_API void sym_measure_text(const char* face, int height, const char* 
 /* The SVG picture of a .sym file. On success returns 1 and a text that sym_free_text releases; on failure
  * returns 0 with the errno of a file that could not be read, or 0 and the number of the first bad line. */
 PLOVIX_HOST_API int sym_render_svg(const char* sym_path, char** svg, int* error_number, int* error_line);
+/* The same for .sym text held in memory (`size` bytes at `text`): 0 with the first bad line, or with
+ * error_line 0 when no memory was left for the picture. */
+PLOVIX_HOST_API int sym_render_svg_text(const char* text, size_t size, char** svg, int* error_line);
 PLOVIX_HOST_API void sym_free_text(char* text);
 
 /* 1 when the .sym file reads as a symbol laid out by the automatic symbol (gio_sym_auto_gen_*): its name, the

@@ -68,6 +68,21 @@ void CatalogLoader::load(const std::string& userPath, const std::string& hostPat
   start();
   scanPath(userPath, true);
   scanPath(hostPath, false);
+  readFiles();
+}
+
+void CatalogLoader::loadTexts(std::vector<CatalogFile> files) {
+  start();
+  files_ = std::move(files);
+  readFiles();
+}
+
+void CatalogLoader::loadText(const std::string& directory, const std::string& filePath,
+                             const std::string& text) {
+  loadTexts({{directory, filePath, text}});
+}
+
+void CatalogLoader::readFiles() {
   // All files are read first, so that room for every entry is made at once.
   size_t lines = 0;
   for (const CatalogFile& file : files_) lines += lineCount(file.text);
@@ -77,15 +92,6 @@ void CatalogLoader::load(const std::string& userPath, const std::string& hostPat
     readLines(file.path, file.text);
   }
   files_.clear();
-  finish();
-}
-
-void CatalogLoader::loadText(const std::string& directory, const std::string& filePath,
-                             const std::string& text) {
-  start();
-  directory_ = directory;
-  index_.expect(lineCount(text));
-  readLines(filePath, text);
   finish();
 }
 
@@ -119,12 +125,16 @@ void CatalogLoader::scanDirectory(const std::string& directory) {
 void CatalogLoader::readLines(const std::string& filePath, const std::string& text) {
   file_ = filePath;
   std::string accumulator;
-  int accumulatorLine = 0;
+  size_t accumulatorLine = 0;
   std::string pending;
-  int pendingLine = 0;
+  size_t pendingLine = 0;
   bool insideBlock = false;
-  int lineNumber = 0;
-  for (const std::string& rawLine : splitLines(text)) {
+  size_t lineNumber = 0;
+  for (size_t start = 0; start < text.size();) {
+    size_t end = text.find('\n', start);
+    if (end == std::string::npos) end = text.size();
+    const std::string_view rawLine = std::string_view(text).substr(start, end - start);
+    start = end + 1;
     ++lineNumber;
     const std::string line = trimText(rawLine);
     if (line.empty() || startsWith(line, "//")) continue;
@@ -152,7 +162,7 @@ void CatalogLoader::readLines(const std::string& filePath, const std::string& te
   if (!pending.empty()) processRecord(pending, pendingLine);
 }
 
-void CatalogLoader::readSectionLine(const std::string& record, int line) {
+void CatalogLoader::readSectionLine(const std::string& record, size_t line) {
   const size_t start = std::min(record.find_first_not_of('['), record.size());
   if (record.find(']', start) == std::string::npos) {
     reportError(ui_, Msg::kNoEndingSeparator, formatInt(line), file_, "]", "]");
@@ -160,7 +170,7 @@ void CatalogLoader::readSectionLine(const std::string& record, int line) {
   section_ = textInBrackets(record, start);
 }
 
-void CatalogLoader::processRecord(const std::string& untrimmedRecord, int line) {
+void CatalogLoader::processRecord(const std::string& untrimmedRecord, size_t line) {
   // Trimmed once: a record that a lone "+" line began starts with a blank, which no later step may keep.
   const std::string record = trimText(untrimmedRecord);
   if (startsWith(record, "[")) {

@@ -18,24 +18,31 @@ class CatalogLoader {
   // Reads the catalogs of both ";"-separated paths, the user path first, into the catalog.
   void load(const std::string& userPath, const std::string& hostPath);
 
-  // Reads the text of one catalog file as if it had been found in `directory` (tests and fuzzing).
-  void loadText(const std::string& directory, const std::string& filePath, const std::string& text);
-
- private:
-  void start();
-  void finish();
-  void readLines(const std::string& filePath, const std::string& text);
-  // A catalog file found by the scan, read before any of them is processed.
+  // A catalog file's text, the directory it was found in and its path.
   struct CatalogFile {
     std::string directory;
     std::string path;
     std::string text;
   };
 
+  // Reads catalog texts held in memory, in order, as if they had been found on the host library path
+  // (tests and fuzzing).
+  void loadTexts(std::vector<CatalogFile> files);
+
+  // The same for the text of one catalog file found in `directory`.
+  void loadText(const std::string& directory, const std::string& filePath, const std::string& text);
+
+ private:
+  void start();
+  // Reads the files found, with room for every entry made at once.
+  void readFiles();
+  void finish();
+  void readLines(const std::string& filePath, const std::string& text);
+
   void scanPath(const std::string& path, bool user);
   void scanDirectory(const std::string& directory);
-  void processRecord(const std::string& record, int line);
-  void readSectionLine(const std::string& record, int line);
+  void processRecord(const std::string& record, size_t line);
+  void readSectionLine(const std::string& record, size_t line);
 
   WizardCatalog& catalog_;
   UserInterface& ui_;

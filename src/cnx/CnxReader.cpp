@@ -106,8 +106,7 @@ const std::string& CnxReader::errorLogPath() const {
 
 bool CnxReader::read() {
   CnxErrorLog log(ui_, errorLogPath_);
-  CnxLine line;
-  log.add(line.counter, line.rest, {});  // the banner
+  log.add(1, {}, {});  // the banner
   std::string text;
   int errorNumber = 0;
   if (!readTextFile(description_.cnxPath, text, errorNumber, kMaxDescriptionBytes)) {
@@ -119,12 +118,28 @@ bool CnxReader::read() {
     }
     return false;
   }
+  return readLimitedText(log, text);
+}
+
+bool CnxReader::readText(std::string_view text) {
+  CnxErrorLog log(ui_, errorLogPath_);
+  log.add(1, {}, {});  // the banner
+  if (text.size() > kMaxDescriptionBytes) {
+    reportError(ui_, Msg::kDescriptionTooLarge, description_.cnxPath,
+                formatInt(static_cast<long long>(kMaxDescriptionBytes)));
+    return false;
+  }
+  return readLimitedText(log, text);
+}
+
+bool CnxReader::readLimitedText(CnxErrorLog& log, std::string_view text) {
   if (const size_t number = firstOverlongLine(text)) {
     reportError(ui_, Msg::kDescriptionLineTooLong, formatInt(static_cast<long long>(number)),
                 description_.cnxPath, formatInt(static_cast<long long>(kMaxDescriptionLineBytes)));
     return false;
   }
   description_.retrievedStatements = retrievedStatementsOf(text);
+  CnxLine line;
   CnxOperands in(line, log);
   TextLineCursor lines(text);
   const bool result = readLines(in, line, lines, description_);

@@ -3,9 +3,11 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "base/UserInterface.h"
 #include "cnx/CnxDescription.h"
+#include "cnx/ErrorLog.h"
 
 namespace plovix {
 
@@ -20,6 +22,10 @@ class CnxReader {
   // first in every case.
   bool read();
 
+  // The same for a description's text already in memory (line ends as readTextFile gives them), as read()
+  // would read it from the file: the size limits, the error log at the path's place (none without a path).
+  bool readText(std::string_view text);
+
   // The description read: every accepted line, also after a failed read.
   const CnxDescription& description() const { return description_; }
   CnxDescription takeDescription() { return std::move(description_); }
@@ -27,6 +33,9 @@ class CnxReader {
   const std::string& errorLogPath() const;
 
  private:
+  // Reads a text within the size limit: the line-length limit, the lines, error 33 on failure.
+  bool readLimitedText(CnxErrorLog& log, std::string_view text);
+
   UserInterface& ui_;
   CnxDescription description_;
   std::string errorLogPath_;
