@@ -120,8 +120,10 @@ std::string arcElement(const gio::ArcBody& a) {
   const double r = std::fabs(static_cast<double>(a.radius));
   if (a.start == a.end)
     return "<circle" + attr("cx", a.centre.x) + attr("cy", a.centre.y) + attr("r", r) + " fill=\"none\"/>\n";
-  const double from = std::atan2(-(a.start.y - a.centre.y), a.start.x - a.centre.x);
-  const double to = std::atan2(-(a.end.y - a.centre.y), a.end.x - a.centre.x);
+  // Differences of any two coordinates fit a double, never an int.
+  const auto delta = [](int to, int from) { return static_cast<double>(to) - static_cast<double>(from); };
+  const double from = std::atan2(-delta(a.start.y, a.centre.y), delta(a.start.x, a.centre.x));
+  const double to = std::atan2(-delta(a.end.y, a.centre.y), delta(a.end.x, a.centre.x));
   double sweep = to - from;
   while (sweep < 0) sweep += 2 * M_PI;
   const std::string path = "M " + num(a.start.x) + " " + num(a.start.y) + " A " + num(r) + " " + num(r) +
@@ -149,7 +151,8 @@ std::vector<std::string> linesOf(const std::string& text) {
 // A pin's name whose pin lies at its right ends at the box's edge: it is anchored at its end, so that a face
 // wider than the measured one grows away from the edge instead of across it.
 bool anchoredAtEnd(const gio::TextBody& t) {
-  return t.isPin && t.orientation != GIO_VERTICAL && t.pinPoint.x >= t.start.x + t.size.x;
+  return t.isPin && t.orientation != GIO_VERTICAL &&
+         t.pinPoint.x >= static_cast<long long>(t.start.x) + t.size.x;
 }
 
 std::string textElement(const gio::TextBody& t) {
@@ -160,7 +163,7 @@ std::string textElement(const gio::TextBody& t) {
   std::string families = kFirstFace;
   if (!face.empty() && face != kFirstFace) families += ", " + face;
   const bool atEnd = anchoredAtEnd(t);
-  const double x = atEnd ? t.start.x + t.size.x : t.start.x;
+  const double x = atEnd ? static_cast<double>(t.start.x) + t.size.x : t.start.x;
   std::string out = "<text" + attr("x", x) + attr("y", t.start.y + 0.9 * em) + attr("font-size", em) +
                     attr("font-family", families + ", sans-serif");
   if (atEnd) out += " text-anchor=\"end\"";
@@ -183,7 +186,7 @@ std::string textElement(const gio::TextBody& t) {
 }
 
 std::string pinElement(const Point& p) {
-  return "<rect" + attr("x", p.x - 2) + attr("y", p.y - 2) + attr("width", 4) + attr("height", 4) +
+  return "<rect" + attr("x", p.x - 2.0) + attr("y", p.y - 2.0) + attr("width", 4) + attr("height", 4) +
          attr("stroke", std::string(kPinColour)) + " fill=\"none\"/>\n";
 }
 

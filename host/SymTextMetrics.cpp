@@ -10,6 +10,8 @@
 // - a text is (sum of the shares * em + 500) / 1000 pixels wide, on one line (line ends count as characters).
 #include "SymTextMetrics.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <string>
 
@@ -63,7 +65,8 @@ TextExtent measureText(int height, std::string_view text) {
   if (text.empty()) return {1, cy};
   long long shares = 0;
   for (char c : text) shares += shareOf(static_cast<unsigned char>(c));
-  return {static_cast<int>((shares * emOfHeight(height) + 500) / 1000), cy};
+  // At most 833 shares a byte and an em of 100000: far within a long long, and capped to an int's range.
+  return {static_cast<int>(std::min<long long>((shares * emOfHeight(height) + 500) / 1000, INT32_MAX)), cy};
 }
 
 }  // namespace plovix::sym

@@ -1,5 +1,6 @@
 // The texts of a drawn symbol: the text routine, pin stubs, the parameter block and the box with its name.
 #include <algorithm>
+#include <cstdint>
 #include <vector>
 
 #include "plovix_host.h"
@@ -27,6 +28,12 @@ std::vector<std::string> parameterLines(const std::string& text) {
   return lines;
 }
 
+// Coordinates and sizes are ints on the sheet: what an absurd description makes of them is capped there,
+// computed without overflow.
+int capped(long long value) {
+  return static_cast<int>(std::clamp<long long>(value, INT32_MIN, INT32_MAX));
+}
+
 }  // namespace
 
 // The text is measured in its own font (an empty one stays empty), placed so that a vertical text's turned
@@ -36,8 +43,8 @@ short SymbolBuilder::drawText(const SymbolText& text) {
   const TextSize size = measureSymbolText(text.text, text.font);
   gio_point start{text.x, text.y};
   if (text.orientation == "VERT") {
-    start.x = text.x - (size.cx - size.cy) / 2;
-    start.y = text.y - (size.cy - size.cx) / 2;
+    start.x = capped(text.x - static_cast<long long>(size.cx - size.cy) / 2);
+    start.y = capped(text.y - static_cast<long long>(size.cy - size.cx) / 2);
   }
   const gio_point extent{size.cx, size.cy};
   const short rec = gio_rec_create(instance_, GIO_TEXT);
@@ -93,8 +100,9 @@ void SymbolBuilder::drawParameterBlock(const SymbolParameter& parameter) {
     block += line + "\n";
     longest = std::max(longest, line.size());
   }
-  const int count = static_cast<int>(lines.size());
-  const gio_point size{static_cast<int>(longest), measureSymbolText(block, font).cy * count};
+  const long long height = static_cast<long long>(measureSymbolText(block, font).cy) *
+                           static_cast<long long>(std::min<size_t>(lines.size(), INT32_MAX));
+  const gio_point size{capped(static_cast<long long>(std::min<size_t>(longest, INT32_MAX))), capped(height)};
   gio_text_set_attr_size(instance_, GIO_TEXT, rec, &size);
   if (!block.empty()) gio_text_set_text(instance_, GIO_TEXT, rec, block.c_str());
   gio_rec_connect(instance_, GIO_TEXT, rec, 0);
