@@ -18,7 +18,7 @@ namespace plovix {
 
 namespace {
 
-// One conversion specification: "%" flags width precision length conversion. The flags and the length are
+// One conversion directive: "%" flags width precision length conversion. The flags and the length are
 // views into the format.
 struct Conversion {
   std::string_view flags;
@@ -37,15 +37,15 @@ int readNumber(const char*& p) {
   return value;
 }
 
-// The specification as snprintf reads it, with the widths fetched for "*" written out.
-std::string specText(const Conversion& c) {
-  std::string spec = "%";
-  spec += c.flags;
-  if (c.left) spec += '-';
-  if (c.width >= 0) spec += std::to_string(c.width);
-  if (c.precision >= 0) spec += "." + std::to_string(c.precision);
-  spec += c.length;
-  return spec + c.kind;
+// The directive as snprintf reads it, with the widths fetched for "*" written out.
+std::string directiveText(const Conversion& c) {
+  std::string directive = "%";
+  directive += c.flags;
+  if (c.left) directive += '-';
+  if (c.width >= 0) directive += std::to_string(c.width);
+  if (c.precision >= 0) directive += "." + std::to_string(c.precision);
+  directive += c.length;
+  return directive + c.kind;
 }
 
 // One number. A plain decimal one is written directly; the others go through snprintf, whose output is
@@ -61,16 +61,16 @@ void appendNumber(std::string& out, const Conversion& c, T value) {
       return;
     }
   }
-  const std::string spec = specText(c);
+  const std::string directive = directiveText(c);
   char small[128];
-  const int needed = std::snprintf(small, sizeof small, spec.c_str(), value);
-  if (needed < 0) throw std::length_error("formatText: a number cannot be formatted with " + spec);
+  const int needed = std::snprintf(small, sizeof small, directive.c_str(), value);
+  if (needed < 0) throw std::length_error("formatText: a number cannot be formatted with " + directive);
   if (static_cast<size_t>(needed) < sizeof small) {
     out.append(small, static_cast<size_t>(needed));
     return;
   }
   std::string big(static_cast<size_t>(needed) + 1, '\0');
-  std::snprintf(big.data(), big.size(), spec.c_str(), value);
+  std::snprintf(big.data(), big.size(), directive.c_str(), value);
   out.append(big.data(), static_cast<size_t>(needed));
 }
 
@@ -86,7 +86,7 @@ void appendText(std::string& out, const Conversion& c, const char* text) {
   if (c.left) out.append(padding, ' ');
 }
 
-// Reads the specification after a "%"; the arguments for "*" are fetched from `args`.
+// Reads the directive after a "%"; the arguments for "*" are fetched from `args`.
 Conversion readConversion(const char*& p, va_list& args) {
   Conversion c;
   const char* flags = p;
@@ -197,7 +197,7 @@ void appendConversion(std::string& out, const Conversion& c, va_list& args) {
       }
       return;
     default:
-      throw std::invalid_argument(std::string("formatText: unsupported conversion ") + specText(c));
+      throw std::invalid_argument(std::string("formatText: unsupported conversion ") + directiveText(c));
   }
 }
 

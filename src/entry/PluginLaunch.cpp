@@ -71,7 +71,8 @@ void noteTakenChannel(ManagerRun& run, UserInterface& ui, const PositionChannel&
 LaunchResult launchPlugin(ManagerApp& app, UserInterface& ui) {
   ManagerRun& run = app.run;
   const std::string command = run.catalog->findCommandLine(run.modulonName);
-  if (command.empty()) {
+  // A command of blanks alone names no program either.
+  if (splitCommandLine(command).empty()) {
     reportError(ui, Msg::kNoLaunchCommandLine, run.modulonName);
     return {};
   }

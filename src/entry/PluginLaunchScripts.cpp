@@ -32,7 +32,7 @@ bool runScriptCommand(UserInterface& ui, const std::vector<std::string>& words,
                       const std::string& shownCommand, bool showMessage) {
   ChildProcess child;
   int errorNumber = 0;
-  if (child.start(words, errorNumber)) {
+  if (child.start(words, errorNumber, ProcessGroup::kCaller)) {
     child.waitForEnd();
     return true;
   }

@@ -18,10 +18,11 @@ namespace plovix {
 
 namespace {
 
-// The attributes of a spawn: a new process group, an empty signal mask and default quit signals.
+// The attributes of a spawn: a new process group (unless the caller's is kept), an empty signal mask and
+// default quit signals.
 class SpawnAttributes {
  public:
-  SpawnAttributes() {
+  explicit SpawnAttributes(bool ownGroup) {
     posix_spawnattr_init(&attributes_);
     sigset_t none;
     sigemptyset(&none);
@@ -33,8 +34,8 @@ class SpawnAttributes {
     posix_spawnattr_setsigmask(&attributes_, &none);
     posix_spawnattr_setsigdefault(&attributes_, &defaults);
     posix_spawnattr_setpgroup(&attributes_, 0);
-    posix_spawnattr_setflags(&attributes_,
-                             POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETPGROUP);
+    posix_spawnattr_setflags(&attributes_, static_cast<short>(POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF |
+                                                              (ownGroup ? POSIX_SPAWN_SETPGROUP : 0)));
   }
   ~SpawnAttributes() { posix_spawnattr_destroy(&attributes_); }
   SpawnAttributes(const SpawnAttributes&) = delete;
@@ -52,7 +53,7 @@ ChildProcess::~ChildProcess() {
   closeDescriptor();
 }
 
-bool ChildProcess::start(const std::vector<std::string>& arguments, int& errorNumber) {
+bool ChildProcess::start(const std::vector<std::string>& arguments, int& errorNumber, ProcessGroup group) {
   errorNumber = 0;
   if (arguments.empty()) {
     errorNumber = ENOENT;
@@ -68,7 +69,7 @@ bool ChildProcess::start(const std::vector<std::string>& arguments, int& errorNu
   for (const std::string& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
   argv.push_back(nullptr);
 
-  SpawnAttributes attributes;
+  SpawnAttributes attributes(group == ProcessGroup::kOwn);
   pid_t pid = -1;
   const int result = posix_spawn(&pid, program.c_str(), nullptr, attributes.get(), argv.data(), environ);
   if (result != 0) {
@@ -76,6 +77,7 @@ bool ChildProcess::start(const std::vector<std::string>& arguments, int& errorNu
     return false;
   }
   pid_ = pid;
+  ownGroup_ = group == ProcessGroup::kOwn;
   reaped_ = false;
   pidFd_ = static_cast<int>(syscall(SYS_pidfd_open, pid, 0));
   return true;
@@ -87,7 +89,7 @@ bool ChildProcess::hasEnded(int32_t& exitCode, bool endGroup) {
     siginfo_t info{};
     const int looked = waitid(P_PID, static_cast<id_t>(pid_), &info, WEXITED | WNOHANG | WNOWAIT);
     if ((looked == 0 && info.si_pid == 0) || (looked != 0 && errno == EINTR)) return false;
-    if (looked == 0 && endGroup) ::kill(-pid_, SIGKILL);
+    if (looked == 0 && endGroup && ownGroup_) ::kill(-pid_, SIGKILL);
     collect();
   }
   exitCode = exitCode_;
@@ -114,7 +116,7 @@ void ChildProcess::collect() {
 
 void ChildProcess::kill() {
   if (reaped_) return;
-  ::kill(-pid_, SIGKILL);
+  if (ownGroup_) ::kill(-pid_, SIGKILL);
   ::kill(pid_, SIGKILL);
   int status = 0;
   while (waitpid(pid_, &status, 0) < 0 && errno == EINTR) {

@@ -10,6 +10,10 @@
 
 namespace plovix {
 
+// Whether a started program gets a process group of its own (a plug-in) or stays in the caller's, as a
+// command of the system's shell call would (a vendor script).
+enum class ProcessGroup { kOwn, kCaller };
+
 class ChildProcess {
  public:
   ChildProcess() = default;
@@ -19,8 +23,10 @@ class ChildProcess {
   ChildProcess& operator=(const ChildProcess&) = delete;
 
   // Starts arguments[0], found by findProgram on PATH, with the caller's environment, working directory and
-  // no inherited signal mask. On failure gives false and sets `errorNumber`.
-  bool start(const std::vector<std::string>& arguments, int& errorNumber);
+  // no inherited signal mask, in the process group `group` says. On failure gives false and sets
+  // `errorNumber`.
+  bool start(const std::vector<std::string>& arguments, int& errorNumber,
+             ProcessGroup group = ProcessGroup::kOwn);
 
   // A descriptor that becomes readable when the process ends; -1 when the system offers none.
   int endDescriptor() const { return pidFd_; }
@@ -36,7 +42,8 @@ class ChildProcess {
   // The signal that ended the process, once hasEnded said so; 0 when it exited or was ended by kill().
   int endSignal() const { return endSignal_; }
 
-  // Ends the process and everything in its group at once (SIGKILL) and collects it.
+  // Ends the process (and everything in its group, when it has a group of its own) at once (SIGKILL) and
+  // collects it.
   void kill();
 
   pid_t pid() const { return pid_; }
@@ -48,6 +55,7 @@ class ChildProcess {
 
   pid_t pid_ = -1;
   int pidFd_ = -1;
+  bool ownGroup_ = true;
   bool reaped_ = true;
   int32_t exitCode_ = 0;
   int endSignal_ = 0;
