@@ -253,24 +253,6 @@ void appendFormatted(std::string& out, const char* format, ...) {
   va_end(args);
 }
 
-void appendFormatted(std::string& out, const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  va_list copy;
-  va_copy(copy, args);
-  char small[512];
-  const int needed = std::vsnprintf(small, sizeof small, format, args);
-  va_end(args);
-  if (needed >= 0 && static_cast<size_t>(needed) < sizeof small) {
-    out.append(small, static_cast<size_t>(needed));
-  } else if (needed >= 0) {
-    const size_t start = out.size();
-    out.resize(start + static_cast<size_t>(needed));
-    std::vsnprintf(out.data() + start, static_cast<size_t>(needed) + 1, format, copy);
-  }
-  va_end(copy);
-}
-
 void TemplatePart::appendTo(std::string& out) const {
   if (!append_) {
     out += text_.substr(0, text_.find('\0'));

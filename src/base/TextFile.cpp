@@ -4,6 +4,8 @@
 #include <cerrno>
 #include <cstdio>
 
+#include <sys/stat.h>
+
 #include "base/SafeWrite.h"
 
 namespace plovix {

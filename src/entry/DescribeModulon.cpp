@@ -6,6 +6,7 @@
 #include "base/Format.h"
 #include "base/Json.h"
 #include "base/Report.h"
+#include "entry/CommandWords.h"
 #include "entry/PluginLaunch.h"
 #include "entry/PluginLaunchParts.h"
 #include "platform/CapturedProcess.h"
@@ -20,10 +21,12 @@ std::vector<std::string> describeCommand(ManagerApp& app, UserInterface& ui, con
   run.directory.clear();
   run.fileTitle.clear();
   run.extension.clear();
-  std::vector<std::string> words = splitCommandLine(entry.commandLine);
+  // As for a run: the catalog's words with their %-codes expanded inside each word, then the DESCRIBE words,
+  // each a whole argument.
+  CommandContext context = commandContextOf(run);
+  context.modulonDirectory = entry.directory;
+  std::vector<std::string> words = pluginCommandWords(ui, context, entry.commandLine);
   if (words.empty()) return words;
-  for (std::string& word : words) word = expandCommandMacros(app, word);
-  words[0] = locatePluginProgram(ui, words[0], entry.directory);
   for (std::string& word : splitCommandLine(entry.describeArgs)) words.push_back(std::move(word));
   return words;
 }
