@@ -87,6 +87,34 @@ std::string retrievalInfoText(const CnxDescription& description, std::string_vie
   return text;
 }
 
+RebuiltCnx rebuildCnxText(UserInterface& ui, std::string_view text, const std::string& commentLeader) {
+  RebuiltCnx rebuilt;
+  TextLineCursor lines(text);
+  std::string_view line;
+  lines.next(line);  // the signature line
+  if (!lines.next(line)) line = {};
+  if (headerValue(ui, line, commentLeader, "GENERATION:", "INVALID") != "STANDARD") return rebuilt;
+
+  if (!lines.next(line)) line = {};
+  const std::string fileVersion = headerValue(ui, line, commentLeader, "VERSION:", kVersionUnknown);
+  if (fileVersion == kVersionUnknown) {
+    rebuilt.state = RebuiltCnx::State::kUnknownVersion;
+    return rebuilt;
+  }
+  rebuilt.state = RebuiltCnx::State::kRebuilt;
+  rebuilt.text = formatText("%s %s\n", "VERSION:", fileVersion.c_str());
+  while (lines.next(line)) {
+    const std::string module = moduleLine(ui, line, commentLeader);
+    if (!module.empty()) {
+      rebuilt.text += module;
+      rebuilt.moduleFound = true;
+    } else if (const size_t at = line.find(kRetrievalMarker); at != std::string_view::npos) {
+      rebuilt.text += retrievedStatement(line, at);
+    }
+  }
+  return rebuilt;
+}
+
 bool extractRetrievalInfo(UserInterface& ui, const std::string& variationPath) {
   if (readModulonNameOfFile(variationPath) == kNotWizardMarker) return false;
   std::string text;
@@ -96,36 +124,18 @@ bool extractRetrievalInfo(UserInterface& ui, const std::string& variationPath) {
     return false;
   }
   const std::string commentLeader = commentLeaderOfExtension(splitPath(variationPath, PathPart::kExtension));
-  TextLineCursor lines(text);
-  std::string_view line;
-  lines.next(line);  // the signature line
-  if (!lines.next(line)) line = {};
-  if (headerValue(ui, line, commentLeader, "GENERATION:", "INVALID") != "STANDARD") return true;
-
-  if (!lines.next(line)) line = {};
-  const std::string fileVersion = headerValue(ui, line, commentLeader, "VERSION:", kVersionUnknown);
-  if (fileVersion == kVersionUnknown) {
+  const RebuiltCnx rebuilt = rebuildCnxText(ui, text, commentLeader);
+  if (rebuilt.state == RebuiltCnx::State::kNotStandard) return true;
+  if (rebuilt.state == RebuiltCnx::State::kUnknownVersion) {
     reportError(ui, Msg::kCnxUnknownVersion, std::string(kManagerName));
     return false;
   }
-  std::string cnx = formatText("%s %s\n", "VERSION:", fileVersion.c_str());
-  bool moduleFound = false;
-  while (lines.next(line)) {
-    const std::string module = moduleLine(ui, line, commentLeader);
-    if (!module.empty()) {
-      cnx += module;
-      moduleFound = true;
-    } else if (const size_t at = line.find(kRetrievalMarker); at != std::string_view::npos) {
-      cnx += retrievedStatement(line, at);
-    }
-  }
-
   const std::string path = pathWithoutExtension(variationPath) + ".cnx";
-  if (!writeTextFile(path, cnx, errorNumber)) {
+  if (!writeTextFile(path, rebuilt.text, errorNumber)) {
     reportFileErrno(ui, errorNumber, path);
     return false;
   }
-  if (!moduleFound) {
+  if (!rebuilt.moduleFound) {
     reportError(ui, Msg::kCnxWithoutModule, std::string(kManagerName));
     return false;
   }

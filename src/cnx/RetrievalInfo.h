@@ -14,6 +14,17 @@ namespace plovix {
 // "Retrieval info:" line per retrieved statement of the description.
 std::string retrievalInfoText(const CnxDescription& description, std::string_view commentLeader);
 
+// The CNX text rebuilt from the text of a variation file whose comments start with `commentLeader`: its
+// version line, module lines and retrieved statements. A file whose header is not a standard generation
+// gives nothing, one without a known version says so.
+struct RebuiltCnx {
+  enum class State { kNotStandard, kUnknownVersion, kRebuilt };
+  State state = State::kNotStandard;
+  std::string text;
+  bool moduleFound = false;
+};
+RebuiltCnx rebuildCnxText(UserInterface& ui, std::string_view text, const std::string& commentLeader);
+
 // Edit mode: rebuilds the CNX file beside a variation file (same directory and base name, ".cnx") from the
 // file's header and retrieval info. False, without a message, for a file without the wizard signature.
 bool extractRetrievalInfo(UserInterface& ui, const std::string& variationPath);
