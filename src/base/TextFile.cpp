@@ -23,10 +23,13 @@ std::string toTextMode(std::string_view text) {
 std::string fromTextMode(std::string_view bytes) {
   std::string out;
   out.reserve(bytes.size());
-  for (size_t i = 0; i < bytes.size(); ++i) {
-    if (bytes[i] == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n') continue;
-    out += bytes[i];
+  // The text between two "\r\n" is copied as one run; each "\r\n" gives its "\n".
+  size_t start = 0;
+  for (size_t end = bytes.find("\r\n"); end != std::string_view::npos; end = bytes.find("\r\n", start)) {
+    out.append(bytes, start, end - start);
+    start = end + 1;
   }
+  out.append(bytes, start);
   return out;
 }
 
