@@ -3,7 +3,7 @@
 #
 # Builds the clang libFuzzer configuration in build-fuzz when needed (ASan and UBSan, see fuzz/CMakeLists.txt),
 # runs fuzz_TARGET for SECONDS on a working copy of its seed corpus (fuzz/corpus/TARGET, with its dictionary
-# fuzz/TARGET.dict when there is one), one job, and prints the executions, executions per second, coverage
+# fuzz/TARGET.dict when there is one) in one process, and prints the executions, executions per second, coverage
 # and findings. A finding (a crash, leak, timeout or out-of-memory input) is left in build-fuzz/findings/TARGET
 # and makes the exit status 1; add it to fuzz/corpus/TARGET so that the tests replay it from then on.
 # Targets: every fuzz/*.cpp but ReplayMain.cpp. Run it under `nice -n 19` on a shared machine.
@@ -48,7 +48,7 @@ case $target in
 esac
 # The plain schedule (-entropic=0): the entropic schedule's bookkeeping of rare features took a third to a half
 # of every run of these targets, most of all of the larger ones.
-options=(-max_total_time="$seconds" -jobs=1 -workers=1 -print_final_stats=1 -timeout=10 -rss_limit_mb=2048
+options=(-max_total_time="$seconds" -print_final_stats=1 -timeout=10 -rss_limit_mb=2048
   -max_len="$max_len" -entropic=0 -artifact_prefix="$findings/")
 [ -f "fuzz/$target.dict" ] && options+=(-dict="$root/fuzz/$target.dict")
 before=$(find "$findings" -type f | wc -l)
@@ -56,7 +56,8 @@ log=$root/$build/fuzz-$target.log
 status=0
 # Shorter allocation stacks keep ASan's bookkeeping cheap; reports still name the allocating functions.
 TIMEFORMAT='%U %S'
-# With -jobs libFuzzer leaves the job's own log (fuzz-0.log) in the working directory: the build folder.
+# One process, run in the build folder, so that its CPU time is measured (a shared machine gives it less
+# than the wall clock).
 cpu=$( cd "$build" && { time ASAN_OPTIONS=detect_leaks=1:allocator_may_return_null=1:malloc_context_size=8 \
   UBSAN_OPTIONS=print_stacktrace=1 "$root/$build/fuzz/fuzz_$target" "${options[@]}" "$@" "$work" >"$log" 2>&1 \
   || echo "status $?" >&2; } 2>&1 )
