@@ -130,10 +130,7 @@ std::vector<char*> environmentWithout(const std::vector<std::string>& names) {
 CapturedRun runCapturingOutput(const std::vector<std::string>& arguments, size_t outputLimit, int timeoutMs,
                                const CaptureSetup& setup) {
   CapturedRun run;
-  const char* searchPath = std::getenv("PATH");
-  const std::string program =
-      arguments.empty() ? std::string()
-                        : findProgram(arguments[0], searchPath == nullptr ? "/usr/bin:/bin" : searchPath);
+  const std::string program = arguments.empty() ? std::string() : findProgramOnPath(arguments[0]);
   if (program.empty()) {
     run.status = ENOENT;
     return run;

@@ -59,8 +59,7 @@ bool ChildProcess::start(const std::vector<std::string>& arguments, int& errorNu
     errorNumber = ENOENT;
     return false;
   }
-  const char* searchPath = std::getenv("PATH");
-  const std::string program = findProgram(arguments[0], searchPath == nullptr ? "/usr/bin:/bin" : searchPath);
+  const std::string program = findProgramOnPath(arguments[0]);
   if (program.empty()) {
     errorNumber = ENOENT;
     return false;

@@ -4,6 +4,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstdlib>
+
 namespace plovix {
 
 namespace {
@@ -44,6 +46,11 @@ std::string findProgram(const std::string& name, const std::string& searchPath) 
   std::string found = searchPathFor(name, searchPath);
   if (found.empty() && name == "javaw") found = searchPathFor("java", searchPath);
   return found;
+}
+
+std::string findProgramOnPath(const std::string& name) {
+  const char* searchPath = std::getenv("PATH");
+  return findProgram(name, searchPath == nullptr ? "/usr/bin:/bin" : searchPath);
 }
 
 }  // namespace plovix

@@ -11,4 +11,7 @@ namespace plovix {
 // Empty when a name without "/" is found nowhere.
 std::string findProgram(const std::string& name, const std::string& searchPath);
 
+// findProgram on the environment's PATH, or on "/usr/bin:/bin" when PATH is not set.
+std::string findProgramOnPath(const std::string& name);
+
 }  // namespace plovix
