@@ -85,6 +85,15 @@ std::span<const CnxConnectionEnd> CnxConnectionMap::find(std::string_view instan
   return {};
 }
 
+void CnxConnectionMapBuilder::reserve(size_t connections, size_t instances) {
+  // Every line files two ends; variation ports count as one more instance.
+  ends_.reserve(2 * connections);
+  portOfEnd_.reserve(2 * connections);
+  instanceNames_.reserve(instances + 1);
+  instanceBuckets_.reserve(instances + 1);
+  instanceOf_.reserve(instances + 1);
+}
+
 void CnxConnectionMapBuilder::file(Name instance, Name port, const CnxConnectionEnd& end) {
   const auto [instanceId, newInstance] =
       instanceOf_.tryEmplace(instance, static_cast<uint32_t>(instanceNames_.size()));

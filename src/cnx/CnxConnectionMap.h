@@ -89,6 +89,8 @@ class CnxConnectionMapBuilder {
  public:
   explicit CnxConnectionMapBuilder(TextPool& names) : names_(&names) {}
 
+  // Makes room for the ends of `connections` CONNECT: lines over about `instances` instances.
+  void reserve(size_t connections, size_t instances);
   void file(Name instance, Name port, const CnxConnectionEnd& end);
   // The map; the builder is empty afterwards.
   CnxConnectionMap finish();

@@ -24,16 +24,21 @@ namespace {
 constexpr std::array<std::string_view, 6> kRetrievedStatements = {
     "LIBRARY:", "PARAMETER:", "CONSTANT:", "PRIVATE:", "USED_PORT:", "CONNECT:"};
 
-// The trimmed lines of `text` whose first word (up to a blank or tab) is a retrieved statement.
-std::string retrievedStatementsOf(std::string_view text) {
+// The trimmed lines of `text` whose first word (up to a blank or tab) is a retrieved statement; `counts`
+// gets the number of lines of the statements that size the reader's tables.
+std::string retrievedStatementsOf(std::string_view text, CnxStatementCounts& counts) {
   std::string kept;
   kept.reserve(text.size());
   TextLineCursor lines(text);
   CnxLine line;
   while (line.readFrom(lines)) {
     const std::string_view firstWord = line.rest.substr(0, line.rest.find_first_of(" \t"));
+    if (firstWord == "MODULE:") ++counts.modules;
+    if (firstWord == "SYMBOL:") ++counts.symbols;
     for (std::string_view statement : kRetrievedStatements) {
       if (firstWord != statement) continue;
+      if (statement == "USED_PORT:") ++counts.usedPorts;
+      if (statement == "CONNECT:") ++counts.connects;
       kept += line.rest;
       kept += '\n';
       break;
@@ -68,7 +73,8 @@ GenerationMode generationModeOf(std::string_view word) {
 }
 
 // The generation line, the version line and the body; false at the first fault of the first two lines.
-bool readLines(CnxOperands& in, CnxLine& line, TextLineCursor& lines, CnxDescription& d) {
+bool readLines(CnxOperands& in, CnxLine& line, TextLineCursor& lines, CnxDescription& d,
+               const CnxStatementCounts& counts) {
   if (!line.readFrom(lines)) return in.fail(Msg::kCnxUnexpectedEnd);
   d.generationMode = generationModeOf(takeGenerationWord(line));
   if (d.generationMode == GenerationMode::kInvalid) return in.fail(Msg::kCnxNoGenerationMode);
@@ -78,6 +84,7 @@ bool readLines(CnxOperands& in, CnxLine& line, TextLineCursor& lines, CnxDescrip
   // Only the WM1.0 body has a reader; a WM2.0 file fails without a log entry.
   if (d.version != "WM1.0") return false;
   CnxBuild build{d, CnxConnectionMapBuilder(*d.names)};
+  build.reserve(counts);
   return readBody(in, line, lines, build);
 }
 
@@ -138,11 +145,12 @@ bool CnxReader::readLimitedText(CnxErrorLog& log, std::string_view text) {
                 description_.cnxPath, formatInt(static_cast<long long>(kMaxDescriptionLineBytes)));
     return false;
   }
-  description_.retrievedStatements = retrievedStatementsOf(text);
+  CnxStatementCounts counts;
+  description_.retrievedStatements = retrievedStatementsOf(text, counts);
   CnxLine line;
   CnxOperands in(line, log);
   TextLineCursor lines(text);
-  const bool result = readLines(in, line, lines, description_);
+  const bool result = readLines(in, line, lines, description_, counts);
   if (!result) reportError(ui_, Msg::kCnxFormatError, errorLogPath_);
   return result;
 }

@@ -57,6 +57,15 @@ bool readPrivate(CnxOperands& in, CnxBuild& out) {
 
 }  // namespace
 
+void CnxBuild::reserve(const CnxStatementCounts& counts) {
+  CnxDescription& d = description;
+  d.modules.reserve(counts.modules);
+  d.symbolElements.reserve(counts.symbols);
+  // About one new name a line: a module's instance, a port, a sub-module's port.
+  d.names->reserve(counts.modules + counts.usedPorts + counts.connects);
+  connections.reserve(counts.connects, counts.modules);
+}
+
 bool readCnxStatement(CnxOperands& in, CnxBuild& out) {
   const std::string_view keyword = in.token();
   CnxDescription& d = out.description;

@@ -9,6 +9,11 @@
 
 namespace plovix {
 
+// How many lines of the statements that size the reader's tables a file holds.
+struct CnxStatementCounts {
+  size_t modules = 0, usedPorts = 0, connects = 0, symbols = 0;
+};
+
 // What the statements of one file build: the description (its names interned in its pool) and the
 // connection map, which is put in order once the whole file is read.
 struct CnxBuild {
@@ -21,6 +26,9 @@ struct CnxBuild {
   // Everything else (the names and values of parameters, constants and privates, defaults, tags) is
   // stored as it comes, without the lookup.
   Name value(std::string_view text) { return description.names->add(text); }
+
+  // Makes room for what a file of `counts` lines builds, so that no table is rebuilt while it is read.
+  void reserve(const CnxStatementCounts& counts);
 };
 
 // Reads the statement whose first token has just been taken (it is the operands' current token) and stores

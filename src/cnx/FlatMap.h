@@ -33,7 +33,9 @@ class FlatMap {
   }
 
   void reserve(size_t count) {
-    while (count * 2 > slots_.size()) grow();
+    size_t length = slots_.empty() ? 16 : slots_.size();
+    while (count * 2 > length) length *= 2;
+    if (length != slots_.size()) rebuild(length);
   }
   size_t size() const { return count_; }
 
@@ -52,9 +54,10 @@ class FlatMap {
     return i;
   }
 
-  void grow() {
+  void grow() { rebuild(slots_.empty() ? 16 : slots_.size() * 2); }
+  void rebuild(size_t length) {
     std::vector<Slot, LargeTableAllocator<Slot>> old = std::move(slots_);
-    slots_.assign(old.empty() ? 16 : old.size() * 2, Slot{});
+    slots_.assign(length, Slot{});
     for (Slot& slot : old) {
       if (slot.used) slots_[position(slot.key, slot.hash)] = std::move(slot);
     }

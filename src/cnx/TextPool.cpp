@@ -1,6 +1,7 @@
 // Implementation of the text pool.
 #include "cnx/TextPool.h"
 
+#include <algorithm>
 #include <cstring>
 #include <new>
 #include <ostream>
@@ -17,6 +18,8 @@ struct EmptyText {
 static_assert(sizeof(detail::PooledText) == 16 && offsetof(EmptyText, nul) == sizeof(detail::PooledText));
 constexpr EmptyText kEmptyText{};
 
+// Blocks start small, since most descriptions are a few hundred lines, and double up to the largest size.
+constexpr size_t kFirstBlockSize = 1024;
 constexpr size_t kBlockSize = 64 * 1024;
 
 }  // namespace
@@ -32,13 +35,15 @@ const detail::PooledText* TextPool::store(std::string_view text, size_t hash) {
   std::byte* place = nullptr;
   if (bytes > kBlockSize / 4) {
     // A long text gets a block of its own, so that the current block is not left half empty.
-    blocks_.push_back(std::make_unique<std::byte[]>(bytes));
+    blocks_.push_back(std::make_unique_for_overwrite<std::byte[]>(bytes));
     place = blocks_.back().get();
   } else {
     if (bytes > left_) {
-      blocks_.push_back(std::make_unique<std::byte[]>(kBlockSize));
+      lastBlockSize_ = std::max(lastBlockSize_ == 0 ? kFirstBlockSize : lastBlockSize_ * 2, bytes);
+      lastBlockSize_ = std::min(lastBlockSize_, kBlockSize);
+      blocks_.push_back(std::make_unique_for_overwrite<std::byte[]>(lastBlockSize_));
       free_ = blocks_.back().get();
-      left_ = kBlockSize;
+      left_ = lastBlockSize_;
     }
     place = free_;
     free_ += bytes;
@@ -51,9 +56,9 @@ const detail::PooledText* TextPool::store(std::string_view text, size_t hash) {
   return entry;
 }
 
-void TextPool::grow() {
+void TextPool::rebuild(size_t length) {
   std::vector<Slot, LargeTableAllocator<Slot>> old = std::move(slots_);
-  slots_.assign(old.empty() ? 64 : old.size() * 2, Slot{});
+  slots_.assign(length, Slot{});
   const size_t mask = slots_.size() - 1;
   for (const Slot& slot : old) {
     if (slot.entry == nullptr) continue;

@@ -83,7 +83,9 @@ class TextPool {
 
   // Makes room for about `count` interned texts, so that the table is not rebuilt while they come.
   void reserve(size_t count) {
-    while (count * 4 > slots_.size() * 3) grow();
+    size_t length = slots_.empty() ? 64 : slots_.size();
+    while (count * 4 > length * 3) length *= 2;
+    if (length != slots_.size()) rebuild(length);
   }
 
   // The number of texts interned.
@@ -96,11 +98,13 @@ class TextPool {
   };
 
   const detail::PooledText* store(std::string_view text, size_t hash);
-  void grow();
+  void grow() { rebuild(slots_.empty() ? 64 : slots_.size() * 2); }
+  void rebuild(size_t length);
 
   std::vector<std::unique_ptr<std::byte[]>> blocks_;
   std::byte* free_ = nullptr;
   size_t left_ = 0;
+  size_t lastBlockSize_ = 0;                            // the size of the block last made
   std::vector<Slot, LargeTableAllocator<Slot>> slots_;  // a power of two long, at most three quarters full
   size_t count_ = 0;
 };
