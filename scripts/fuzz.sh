@@ -51,7 +51,10 @@ esac
 options=(-max_total_time="$seconds" -print_final_stats=1 -timeout=10 -rss_limit_mb=2048
   -max_len="$max_len" -entropic=0 -artifact_prefix="$findings/")
 [ -f "fuzz/$target.dict" ] && options+=(-dict="$root/fuzz/$target.dict")
-before=$(find "$findings" -type f | wc -l)
+# Findings are crashes, leaks, timeouts and out-of-memory inputs. A slow unit (over 10 s of wall clock) is
+# saved too, but is no finding: on a shared machine a run that waits for the CPU looks slow.
+found() { find "$findings" -type f ! -name 'slow-unit-*' | wc -l; }
+before=$(found)
 log=$root/$build/fuzz-$target.log
 status=0
 # Shorter allocation stacks keep ASan's bookkeeping cheap; reports still name the allocating functions.
@@ -63,7 +66,7 @@ cpu=$( cd "$build" && { time ASAN_OPTIONS=detect_leaks=1:allocator_may_return_nu
   || echo "status $?" >&2; } 2>&1 )
 if [[ $cpu == *status* ]]; then status=1; fi
 cpu_seconds=$(awk '{ print $(NF-1) + $NF }' <<<"${cpu##*$'\n'}")
-after=$(find "$findings" -type f | wc -l)
+after=$(found)
 
 # libFuzzer's final statistics and its last status line ("#N ... cov: C ft: F ... exec/s: E").
 runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log" | tail -1)
@@ -78,6 +81,8 @@ echo "exec/s:      ${speed:-?} (wall clock); $(awk -v r="${runs:-0}" -v c="$cpu_
 echo "coverage:    ${edges:-?} edges, ${features:-?} features"
 echo "corpus:      $(find "$work" -type f | wc -l) inputs"
 echo "findings:    $((after - before)) (in $findings; log $log)"
+slow=$(sed -n 's/^stat::slowest_unit_time_sec: *//p' "$log" | tail -1)
+echo "slowest run: ${slow:-?} s of wall clock"
 if [ $((after - before)) -ne 0 ] || [ "$status" -ne 0 ]; then
   tail -40 "$log" >&2
   exit 1
