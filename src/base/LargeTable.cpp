@@ -3,6 +3,7 @@
 
 #include <sys/mman.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <new>
 
@@ -17,6 +18,18 @@ void* allocateLargeTable(size_t bytes) {
   madvise(storage, rounded, MADV_HUGEPAGE);
 #endif
   return storage;
+}
+
+void adviseHugePages(const void* storage, size_t bytes) {
+#ifdef MADV_HUGEPAGE
+  const uintptr_t start = reinterpret_cast<uintptr_t>(storage);
+  const uintptr_t first = (start + kLargeTableBytes - 1) / kLargeTableBytes * kLargeTableBytes;
+  const uintptr_t end = (start + bytes) / kLargeTableBytes * kLargeTableBytes;
+  if (end > first) madvise(reinterpret_cast<void*>(first), end - first, MADV_HUGEPAGE);
+#else
+  (void)storage;
+  (void)bytes;
+#endif
 }
 
 void releaseLargeTable(void* storage) {

@@ -6,6 +6,7 @@
 
 #include <sys/stat.h>
 
+#include "base/LargeTable.h"
 #include "base/SafeWrite.h"
 
 namespace plovix {
@@ -43,8 +44,10 @@ bool readFileBytes(const std::string& path, std::string& bytes, int& errorNumber
   }
   // Room for the whole file at once, so that a large file is not copied while it grows.
   struct stat status {};
-  if (fstat(fileno(file), &status) == 0 && status.st_size > 0)
+  if (fstat(fileno(file), &status) == 0 && status.st_size > 0) {
     bytes.reserve(static_cast<size_t>(status.st_size));
+    adviseHugePages(bytes.data(), bytes.capacity());
+  }
   char buffer[65536];
   size_t n = 0;
   while ((n = std::fread(buffer, 1, sizeof buffer, file)) > 0) {
@@ -67,9 +70,11 @@ bool readFileBytes(const std::string& path, std::string& bytes, int& errorNumber
 
 bool readTextFile(const std::string& path, std::string& text, int& errorNumber, size_t maxBytes) {
   if (!readFileBytes(path, text, errorNumber, maxBytes)) return false;
-  // Each "\r\n" made "\n" in place, without a copy.
-  size_t kept = 0;
-  for (size_t i = 0; i < text.size(); ++i) {
+  // Each "\r\n" made "\n" in place, without a copy, from the first one on.
+  const size_t first = text.find("\r\n");
+  if (first == std::string::npos) return true;
+  size_t kept = first;
+  for (size_t i = first; i < text.size(); ++i) {
     if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
     text[kept++] = text[i];
   }

@@ -5,6 +5,8 @@
 #include <array>
 #include <utility>
 
+#include "base/LargeTable.h"
+
 namespace plovix {
 
 namespace {
@@ -88,6 +90,7 @@ std::span<const CnxConnectionEnd> CnxConnectionMap::find(std::string_view instan
 void CnxConnectionMapBuilder::reserve(size_t connections, size_t instances) {
   // Every line files two ends; variation ports count as one more instance.
   ends_.reserve(2 * connections);
+  adviseHugePages(ends_.data(), ends_.capacity() * sizeof(CnxConnectionEnd));
   portOfEnd_.reserve(2 * connections);
   instanceNames_.reserve(instances + 1);
   instanceBuckets_.reserve(instances + 1);

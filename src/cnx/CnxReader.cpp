@@ -8,6 +8,7 @@
 
 #include "base/FileSystem.h"
 #include "base/Format.h"
+#include "base/LargeTable.h"
 #include "base/Messages.h"
 #include "base/Report.h"
 #include "base/TextFile.h"
@@ -29,6 +30,7 @@ constexpr std::array<std::string_view, 6> kRetrievedStatements = {
 std::string retrievedStatementsOf(std::string_view text, CnxStatementCounts& counts) {
   std::string kept;
   kept.reserve(text.size());
+  adviseHugePages(kept.data(), kept.capacity());
   TextLineCursor lines(text);
   CnxLine line;
   while (line.readFrom(lines)) {
