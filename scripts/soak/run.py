@@ -21,6 +21,8 @@ import generate  # noqa: E402
 import models  # noqa: E402
 
 TOOLS = ["ghdl", "iverilog", "verilator", "yosys"]
+TOOL_LANGUAGE = {"ghdl": "vhdl", "iverilog": "verilog", "verilator": "verilog", "yosys": "verilog",
+                 "plovix-vhdl": "none", "plovix-verilog": "none"}
 VECTORS = 12
 TIME_LIMIT = 120
 PLUGIN = '#!/bin/sh\ncp "$(dirname "$0")/prepared.cnx" "${1%.*}.cnx"\n'
@@ -251,11 +253,14 @@ def finish(result, work):
         failed = ["sim"]
         result["sim"] = "not simulated"
     result["failed"] = failed
-    # A failure is explained when plovix warned about the description: with valid text, by a warning that
-    # says valid text does not cover the construct or cannot express it; with the default text, by any.
-    remedies = [warning_kind(text) for _, text in result["warnings"]]
-    result["explained"] = bool(failed) and any(
-        "[not covered yet]" in r or "[no valid text]" in r or not result.get("valid") for r in remedies)
+    # A failure is explained when plovix warned about the description in the language of the tool that
+    # failed (a simulation: in either): with valid text, by a warning that says valid text does not cover
+    # the construct or cannot express it; with the default text, by any.
+    def explains(language):
+        return any((language is None or language == lang) and (
+            not result.get("valid") or re.search(r"\[(not covered yet|no valid text)\]", warning_kind(text)))
+            for lang, text in result["warnings"])
+    result["explained"] = bool(failed) and all(explains(TOOL_LANGUAGE.get(f)) for f in failed)
     if not failed and not os.environ.get("PLOVIX_SOAK_KEEP"):
         shutil.rmtree(work, ignore_errors=True)
     return result

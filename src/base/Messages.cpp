@@ -251,6 +251,9 @@ constexpr Row kTable[] = {
      "a sub-module output read in one slice above bit 0 is read from a wire as narrow as the slice"},
     {Msg::kHdlGenericsOfFirstInstance,
      "an instance without a constant that the module's first instance has lacks that VHDL generic"},
+    {Msg::kHdlConstantAboveZero,
+     "a constant driving an output slice above bit 0 is read at the slice's bits from a signal that holds "
+     "only its own bits in VHDL"},
     {Msg::kLintFindingAt, "lint: %s: %s:%s: %s"},
     {Msg::kLintFinding, "lint: %s: %s: %s"},
     {Msg::kLintNoTools, "none of the HDL tools %s is on PATH; %s was not checked"},

@@ -200,6 +200,7 @@ enum class Msg : int {
   kHdlSliceToWholePort,
   kHdlBitOfOutputToBit,
   kHdlGenericsOfFirstInstance,
+  kHdlConstantAboveZero,
 
   // plovix --lint.
   kLintFindingAt,

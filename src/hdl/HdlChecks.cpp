@@ -219,6 +219,9 @@ void findVhdlConstructs(const CnxDescription& description, const Netlist& netlis
     const CnxConnectionEnd& end = *c.end;
     if (isNumberConstant(end) && end.own.isSingleBit())
       out.add(HdlConstruct::kNumberDrivesBit, c.port.view(), c.instance.view(), end.line);
+    // A constant's signal holds its bits from bit 0, however high the slice of the output it drives.
+    if (c.instance.empty() && end.peerIsConstant && end.own.bits.present() && end.own.bits.low.value() != 0)
+      out.add(HdlConstruct::kConstantAboveZero, c.port.view(), {}, end.line);
     // Rows of a two-dimensional port and ports declared whole with "@" are joined into one signal.
     if (c.instance.empty() || end.own.rows.present() || declaredWithAt(description, c.instance, c.port))
       continue;
@@ -319,7 +322,7 @@ void findVerilogConstructs(const CnxDescription& description, const Netlist& net
 }  // namespace
 
 bool readsSliceOfVariationPort(const CnxDescription& description, const NetlistConnection& connection) {
-  if (connection.ownInstance.empty() || !connection.own.bits.present() || !connection.peer.bits.present() ||
+  if (connection.ownInstance.empty() || !connection.peer.bits.present() ||
       connection.peer.rows.present() || connection.own.rows.present())
     return false;
   for (const auto* ports : {&description.inputPorts, &description.outputPorts}) {

@@ -22,7 +22,7 @@ std::vector<HdlFinding> findHdlConstructs(const CnxDescription& description, con
 std::string hdlFindingWarning(const HdlFinding& finding, std::string_view fileName, HdlTextMode mode);
 
 // The connection feeds a sub-module port from a slice of a variation port other than the whole port (the
-// standard text connects the whole port; the valid text the slice).
+// standard text connects the whole port; the valid text the slice, or for a single-bit port the bit).
 bool readsSliceOfVariationPort(const CnxDescription& description, const NetlistConnection& connection);
 
 // A VHDL reserved word (case ignored), or a name that is no VHDL identifier.

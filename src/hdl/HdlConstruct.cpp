@@ -21,7 +21,7 @@ constexpr HdlRemedy kOther = HdlRemedy::kOtherLanguage;
 constexpr HdlRemedy kNothing = HdlRemedy::kNothing;
 
 // In the order of the enum; a construct a language never holds has the remedy kNothing there (unused).
-constexpr std::array<ConstructRow, 21> kConstructs = {{
+constexpr std::array<ConstructRow, 22> kConstructs = {{
     {HdlConstruct::kEmptyGenericMap, "empty-generic-map", Msg::kHdlEmptyGenericMap, kValid, kNothing},
     {HdlConstruct::kReservedWord, "reserved-word", Msg::kHdlReservedWord, kOther, kNothing},
     {HdlConstruct::kPassedParameter, "passed-parameter", Msg::kHdlPassedParameter, kValid, kNothing},
@@ -40,11 +40,12 @@ constexpr std::array<ConstructRow, 21> kConstructs = {{
     {HdlConstruct::kPinReadTwice, "pin-read-twice", Msg::kHdlPinReadTwice, kValid, kValid},
     {HdlConstruct::kVerilogKeyword, "verilog-keyword", Msg::kHdlVerilogKeyword, kNothing, kOther},
     {HdlConstruct::kLowerCasedName, "lower-cased-name", Msg::kHdlLowerCasedName, kNothing, kValid},
-    {HdlConstruct::kBitOfBusToBit, "bit-of-bus-to-bit", Msg::kHdlBitOfBusToBit, kNotYet, kNotYet},
+    {HdlConstruct::kBitOfBusToBit, "bit-of-bus-to-bit", Msg::kHdlBitOfBusToBit, kValid, kValid},
     {HdlConstruct::kSliceToWholePort, "slice-to-whole-port", Msg::kHdlSliceToWholePort, kValid, kValid},
     {HdlConstruct::kBitOfOutputToBit, "slice-above-zero", Msg::kHdlBitOfOutputToBit, kValid, kValid},
     {HdlConstruct::kGenericsOfFirstInstance, "generics-of-first-instance", Msg::kHdlGenericsOfFirstInstance,
      kNotYet, kNothing},
+    {HdlConstruct::kConstantAboveZero, "constant-above-zero", Msg::kHdlConstantAboveZero, kValid, kNothing},
 }};
 
 constexpr bool rowsInOrder() {

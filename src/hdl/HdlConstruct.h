@@ -32,6 +32,7 @@ enum class HdlConstruct : uint8_t {
   kSliceToWholePort,         // a slice of a variation port feeding a whole sub-module input
   kBitOfOutputToBit,         // one bit (not bit 0) of a sub-module bus output feeding a single-bit output
   kGenericsOfFirstInstance,  // VHDL: another instance of the module lacks a constant the first one has
+  kConstantAboveZero,        // VHDL: a constant driving a slice of a variation output above bit 0
 };
 
 // What the valid mode does about a construct.

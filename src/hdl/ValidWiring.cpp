@@ -1,5 +1,5 @@
-// Rewiring the sub-module outputs for the valid text: one wire per pin for outputs read in several slices,
-// a plain wire under every inverted output.
+// Rewiring for the valid text: one wire per pin for sub-module outputs read in several slices, a plain wire
+// under every inverted output, and single bits of variation buses read where they are.
 #include "hdl/ValidWiring.h"
 
 #include <algorithm>
@@ -132,6 +132,43 @@ bool wireInvertedPins(Netlist::Parts& parts, const CnxDescription& description, 
   return changed;
 }
 
+bool isVariationInput(const CnxDescription& description, Name name) {
+  return std::any_of(description.inputPorts.begin(), description.inputPorts.end(),
+                     [name](const CnxUsedPort& port) { return port.name == name; });
+}
+
+// One bit of a variation bus feeding a single-bit sub-module input reads the bit itself, not a wire as wide as
+// the port that nothing drives; a wire left without readers goes. True when some connection changed.
+bool readPortBitsDirectly(Netlist::Parts& parts, const CnxDescription& description, TextPool& texts) {
+  std::unordered_map<Name, size_t> wireOf;
+  for (size_t w = 0; w < parts.wires.size(); ++w) wireOf.emplace(parts.wires[w].name, w);
+  std::vector<bool> rewiredFrom(parts.wires.size(), false);
+  for (NetlistConnection& c : parts.connections) {
+    if (c.ownInstance.empty() || c.role != ConversionRole::kNone || !c.own.isSingleBit() ||
+        !c.peer.bits.present() || c.peer.rows.present())
+      continue;
+    const auto found = wireOf.find(c.peerName);
+    if (found == wireOf.end()) continue;
+    const NetlistWire& wire = parts.wires[found->second];
+    if (wire.isConstant || wire.isInverted || wire.sourceText.view().find("_component.") != std::string::npos ||
+        !isVariationInput(description, wire.drivingPort))
+      continue;
+    rewiredFrom[found->second] = true;
+    c.peerName = wire.drivingPort;
+    c.peer.bits.width = Bound::ofValue(1);
+    c.peerBitsRange = texts.intern(rangeText(c.peer.bits));
+  }
+  if (std::none_of(rewiredFrom.begin(), rewiredFrom.end(), [](bool b) { return b; })) return false;
+  std::vector<bool> read(parts.wires.size(), false);
+  for (const NetlistConnection& c : parts.connections)
+    if (const auto found = wireOf.find(c.peerName); found != wireOf.end()) read[found->second] = true;
+  std::vector<NetlistWire> wires;
+  for (size_t w = 0; w < parts.wires.size(); ++w)
+    if (!rewiredFrom[w] || read[w]) wires.push_back(parts.wires[w]);
+  parts.wires = std::move(wires);
+  return true;
+}
+
 }  // namespace
 
 std::unique_ptr<Netlist> validWiring(const Netlist& netlist, const CnxDescription& description) {
@@ -139,7 +176,8 @@ std::unique_ptr<Netlist> validWiring(const Netlist& netlist, const CnxDescriptio
   Netlist::Parts parts = netlist.parts();
   const bool joined = joinSlicedPins(parts, description, *texts);
   const bool inverted = wireInvertedPins(parts, description, *texts);
-  if (!joined && !inverted) return nullptr;
+  const bool portBits = readPortBitsDirectly(parts, description, *texts);
+  if (!joined && !inverted && !portBits) return nullptr;
   return std::make_unique<Netlist>(std::move(parts), std::move(texts));
 }
 

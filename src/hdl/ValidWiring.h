@@ -10,7 +10,8 @@ namespace plovix {
 
 // A copy of `netlist` (built from `description`) in which every inverted sub-module output inverts a wire
 // connected to its pin, and a sub-module output read in several slices drives one wire as wide as the bits
-// read, of which each reader reads its slice. Null when nothing changes. The copy borrows the names of
+// read, of which each reader reads its slice, and a single-bit sub-module input fed by one bit of a variation
+// bus reads that bit of the port. Null when nothing changes. The copy borrows the names of
 // `netlist`, which must outlive it.
 std::unique_ptr<Netlist> validWiring(const Netlist& netlist, const CnxDescription& description);
 

@@ -144,11 +144,14 @@ void appendWireAssignments(const std::vector<NetlistWire>& wires, AssignmentText
 // has always been left out.
 class GroupedAssignments {
  public:
-  // The valid text assigns a variation port's bit to the one-bit wire that carries it into a slice.
+  // The valid text assigns a variation port's bit to the one-bit wire that carries it into a slice, and
+  // reads a constant's wire from bit 0 whatever slice of a variation output it drives.
   GroupedAssignments(const std::vector<NetlistWire>& wires, AssignmentText& out, HdlTextMode mode)
-      : out_(out) {
+      : out_(out), valid_(mode == HdlTextMode::kValid) {
     for (const NetlistWire& wire : wires) {
       if (wire.isConstant) constantWires_.insert(wire.name);
+      if (mode == HdlTextMode::kValid && wire.isConstant) constantShapes_.emplace(wire.name, shapeOf(wire));
+      if (mode == HdlTextMode::kValid) wireNames_.insert(wire.name);
       const bool carriesPortBit = !wire.isConstant && !wire.isInverted &&
                                   wire.sourceText == wire.drivingPort && wire.sourceKey == wire.drivingPort;
       if (mode == HdlTextMode::kValid && carriesPortBit) portBitWires_.emplace(wire.name, wire.drivingPort);
@@ -162,10 +165,11 @@ class GroupedAssignments {
       if (!c.peer.bits.present() && c.own.bits.present()) appendLow(target_, c.own.bits.low);
       right_ += separator_;
       right_ += c.peerName.view();
+      const auto constant = constantShapes_.find(c.peerName);
       if (c.peer.bits.present() && !c.own.bits.present()) {
         appendLow(right_, c.peer.bits.low);
       } else {
-        right_ += rangeOf(c.peer);
+        right_ += rangeOf(constant == constantShapes_.end() ? c.peer : constant->second);
       }
     } else if (variationPort && c.role == ConversionRole::kFlatSide) {
       open(c.peerName.view());
@@ -176,6 +180,8 @@ class GroupedAssignments {
       const bool oneSideFlat = c.own.bits.present() != c.peer.bits.present();
       if (oneSideFlat && !constantPeer) {
         if (c.role != ConversionRole::kNone) return;
+        // The valid text's instance reads a variation port's bit itself.
+        if (valid_ && !wireNames_.contains(c.peerName.view())) return;
         const auto port = portBitWires_.find(c.peerName);
         if (port != portBitWires_.end() && c.own.bits.width.isOne()) {
           open(c.peerName.view());
@@ -251,8 +257,11 @@ class GroupedAssignments {
   }
 
   AssignmentText& out_;
+  bool valid_;
   NameSet constantWires_;
+  NameSet wireNames_;  // valid text: every wire
   std::unordered_map<Name, Name> portBitWires_;  // wire -> the variation port whose bit it carries
+  std::unordered_map<Name, Shape> constantShapes_;  // valid text: a constant wire -> its bits, from bit 0
   ShapeTexts ranges_;
   std::string target_, previous_, right_, separator_;
 };

@@ -111,7 +111,7 @@ void VhdlFileWriter::appendInstances(std::string& text, const VhdlNetlist& signa
         first = false;
         right += separator;
         right += c.peerName.view();
-        if (mode_ == HdlTextMode::kValid && readsSliceOfVariationPort(description_, c))
+        if (mode_ == HdlTextMode::kValid && c.own.bits.present() && readsSliceOfVariationPort(description_, c))
           right += vhdlRangeText(c.peer);
         if (c.peer.bits.present() && !c.own.bits.present() && c.role == ConversionRole::kNone) {
           right += "(" + c.peer.bits.low.text() + ")";
