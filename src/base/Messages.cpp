@@ -254,6 +254,7 @@ constexpr Row kTable[] = {
     {Msg::kHdlConstantAboveZero,
      "a constant driving an output slice above bit 0 is read at the slice's bits from a signal that holds "
      "only its own bits in VHDL"},
+    {Msg::kHdlInvertedSlice, "an inverted slice of a variation port inverts the whole port"},
     {Msg::kLintFindingAt, "lint: %s: %s:%s: %s"},
     {Msg::kLintFinding, "lint: %s: %s: %s"},
     {Msg::kLintNoTools, "none of the HDL tools %s is on PATH; %s was not checked"},

@@ -201,6 +201,7 @@ enum class Msg : int {
   kHdlBitOfOutputToBit,
   kHdlGenericsOfFirstInstance,
   kHdlConstantAboveZero,
+  kHdlInvertedSlice,
 
   // plovix --lint.
   kLintFindingAt,

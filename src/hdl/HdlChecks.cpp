@@ -134,8 +134,14 @@ void findSharedConstructs(const CnxDescription& description, const Netlist& netl
     if (netlist.packsRows() && !c.instance.empty() && end.own.rows.present() && !end.peer.rows.present())
       out.add(HdlConstruct::kTwoDimensionalRows, c.port.view(), c.instance.view(), end.line);
     const bool fromVariationPort = !end.peerIsConstant && end.peerInstance.empty();
-    if (fromVariationPort && !c.instance.empty() && end.own.isSingleBit() && !end.peer.isSingleBit())
+    if (fromVariationPort && !end.peerInverted && !c.instance.empty() && end.own.isSingleBit() &&
+        !end.peer.isSingleBit())
       out.add(HdlConstruct::kBitOfBusToBit, c.port.view(), c.instance.view(), end.line);
+    if (fromVariationPort && end.peerInverted && end.peer.bits.present() && !end.peer.rows.present()) {
+      const CnxUsedPort* port = variationPort(end.peerPort);
+      if (port != nullptr && !port->shape.rows.present() && !(port->shape.bits == end.peer.bits))
+        out.add(HdlConstruct::kInvertedSlice, end.peerPort.view(), {}, end.line);
+    }
     // VHDL joins several feeds of one port with their ranges; Verilog joins them by name.
     if (fromVariationPort && !c.instance.empty() && bitCount(end.own.bits) > 1 && !end.own.rows.present() &&
         (!vhdl || feedCount[endKey(c.instance, c.port)] == 1)) {
@@ -322,8 +328,8 @@ void findVerilogConstructs(const CnxDescription& description, const Netlist& net
 }  // namespace
 
 bool readsSliceOfVariationPort(const CnxDescription& description, const NetlistConnection& connection) {
-  if (connection.ownInstance.empty() || !connection.peer.bits.present() ||
-      connection.peer.rows.present() || connection.own.rows.present())
+  if (connection.ownInstance.empty() || !connection.peer.bits.present() || connection.peer.rows.present() ||
+      connection.own.rows.present())
     return false;
   for (const auto* ports : {&description.inputPorts, &description.outputPorts}) {
     for (const CnxUsedPort& port : *ports)

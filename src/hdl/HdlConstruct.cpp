@@ -21,7 +21,7 @@ constexpr HdlRemedy kOther = HdlRemedy::kOtherLanguage;
 constexpr HdlRemedy kNothing = HdlRemedy::kNothing;
 
 // In the order of the enum; a construct a language never holds has the remedy kNothing there (unused).
-constexpr std::array<ConstructRow, 22> kConstructs = {{
+constexpr std::array<ConstructRow, 23> kConstructs = {{
     {HdlConstruct::kEmptyGenericMap, "empty-generic-map", Msg::kHdlEmptyGenericMap, kValid, kNothing},
     {HdlConstruct::kReservedWord, "reserved-word", Msg::kHdlReservedWord, kOther, kNothing},
     {HdlConstruct::kPassedParameter, "passed-parameter", Msg::kHdlPassedParameter, kValid, kNothing},
@@ -46,6 +46,7 @@ constexpr std::array<ConstructRow, 22> kConstructs = {{
     {HdlConstruct::kGenericsOfFirstInstance, "generics-of-first-instance", Msg::kHdlGenericsOfFirstInstance,
      kNotYet, kNothing},
     {HdlConstruct::kConstantAboveZero, "constant-above-zero", Msg::kHdlConstantAboveZero, kValid, kNothing},
+    {HdlConstruct::kInvertedSlice, "inverted-slice", Msg::kHdlInvertedSlice, kValid, kValid},
 }};
 
 constexpr bool rowsInOrder() {

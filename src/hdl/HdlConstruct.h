@@ -33,6 +33,7 @@ enum class HdlConstruct : uint8_t {
   kBitOfOutputToBit,         // one bit (not bit 0) of a sub-module bus output feeding a single-bit output
   kGenericsOfFirstInstance,  // VHDL: another instance of the module lacks a constant the first one has
   kConstantAboveZero,        // VHDL: a constant driving a slice of a variation output above bit 0
+  kInvertedSlice,            // an inverted slice of a variation port, the whole port inverted
 };
 
 // What the valid mode does about a construct.

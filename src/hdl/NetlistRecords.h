@@ -24,6 +24,9 @@ struct NetlistWire {
   // The widths of the wire's two ranges (width1, width2); its low indices are always 0.
   Bound rowsWidth;
   Bound bitsWidth;
+  // The valid text's inverting wire of a slice of a variation port: the slice it inverts (absent: the whole
+  // port, as the standard text always inverts it).
+  Range drivingBits;
   bool isConstant = false;
   bool isInverted = false;
   int32_t useCount = 1;  // the connections it carries

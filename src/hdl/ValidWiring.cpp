@@ -46,12 +46,27 @@ bool joinSlicedPins(Netlist::Parts& parts, const CnxDescription& description, Te
     if (!pin.empty()) wiresOfPin[pin].push_back(w);
   }
   std::unordered_map<Name, bool> readAboveZero;
-  for (const NetlistConnection& c : parts.connections)
-    if (c.peer.bits.present() && integerOf(c.peer.bits.low) != 0) readAboveZero[c.peerName] = true;
+  std::unordered_map<Name, Bound> lowRead;  // a wire -> the low bit its first reader with a range reads
+  for (const NetlistConnection& c : parts.connections) {
+    if (!c.peer.bits.present()) continue;
+    if (integerOf(c.peer.bits.low) != 0) readAboveZero[c.peerName] = true;
+    lowRead.emplace(c.peerName, c.peer.bits.low);
+  }
+  // An inverting wire on a pin (wireInvertedPins gave it a plain wire to invert) reads the pin like the
+  // others.
+  std::unordered_map<Name, std::vector<size_t>> invertersOf;
+  for (size_t w = 0; w < parts.wires.size(); ++w) {
+    const NetlistWire& wire = parts.wires[w];
+    if (!wire.isInverted || pinOf(wire, description).empty()) continue;
+    invertersOf[wire.drivingPort].push_back(w);
+    if (readAboveZero[wire.name]) readAboveZero[wire.drivingPort] = true;
+  }
   std::unordered_map<Name, Name> joinedInto;  // a wire of a joined pin -> the pin's wire
   std::vector<bool> dropped(parts.wires.size(), false);
   for (const auto& [pin, list] : wiresOfPin) {
-    if (list.size() < 2 && !readAboveZero[parts.wires[list.front()].name]) continue;
+    const bool aboveZero =
+        std::any_of(list.begin(), list.end(), [&](size_t w) { return readAboveZero[parts.wires[w].name]; });
+    if (list.size() < 2 && !aboveZero) continue;
     NetlistWire& kept = parts.wires[list.front()];
     for (size_t w : list) {
       joinedInto.emplace(parts.wires[w].name, kept.name);
@@ -72,6 +87,24 @@ bool joinSlicedPins(Netlist::Parts& parts, const CnxDescription& description, Te
     long long& width = widthOf[joined->second];
     width = std::max(width, top);
   }
+  // An inverting wire inverts its slice of the pin's wire, and its readers read it from bit 0.
+  std::unordered_map<Name, Range> invertedSlice;
+  for (const auto& [plain, inverters] : invertersOf) {
+    const auto joined = joinedInto.find(plain);
+    if (joined == joinedInto.end()) continue;
+    for (size_t w : inverters) {
+      NetlistWire& inverter = parts.wires[w];
+      const auto low = lowRead.find(inverter.name);
+      const Range slice{inverter.bitsWidth, low == lowRead.end() ? Bound() : low->second};
+      inverter.drivingPort = joined->second;
+      if (slice.present()) inverter.drivingBits = slice;
+      invertedSlice.emplace(inverter.name, slice);
+      long long& width = widthOf[joined->second];
+      width = std::max(width, slice.present() ? integerOf(slice.low) + integerOf(slice.width) : 1);
+    }
+  }
+  for (NetlistConnection& c : parts.connections)
+    if (invertedSlice.contains(c.peerName)) c.peer.bits.low = Bound();
   std::vector<NetlistWire> wires;
   for (size_t w = 0; w < parts.wires.size(); ++w) {
     if (dropped[w]) continue;
@@ -132,13 +165,14 @@ bool wireInvertedPins(Netlist::Parts& parts, const CnxDescription& description, 
   return changed;
 }
 
-bool isVariationInput(const CnxDescription& description, Name name) {
-  return std::any_of(description.inputPorts.begin(), description.inputPorts.end(),
-                     [name](const CnxUsedPort& port) { return port.name == name; });
+const CnxUsedPort* variationPort(const CnxDescription& description, Name name) {
+  for (const CnxUsedPort& port : description.inputPorts)
+    if (port.name == name) return &port;
+  return nullptr;
 }
 
-// One bit of a variation bus feeding a single-bit sub-module input reads the bit itself, not a wire as wide as
-// the port that nothing drives; a wire left without readers goes. True when some connection changed.
+// One bit of a variation bus feeding a single-bit sub-module input reads the bit itself, not a wire as wide
+// as the port that nothing drives; a wire left without readers goes. True when some connection changed.
 bool readPortBitsDirectly(Netlist::Parts& parts, const CnxDescription& description, TextPool& texts) {
   std::unordered_map<Name, size_t> wireOf;
   for (size_t w = 0; w < parts.wires.size(); ++w) wireOf.emplace(parts.wires[w].name, w);
@@ -150,8 +184,9 @@ bool readPortBitsDirectly(Netlist::Parts& parts, const CnxDescription& descripti
     const auto found = wireOf.find(c.peerName);
     if (found == wireOf.end()) continue;
     const NetlistWire& wire = parts.wires[found->second];
-    if (wire.isConstant || wire.isInverted || wire.sourceText.view().find("_component.") != std::string::npos ||
-        !isVariationInput(description, wire.drivingPort))
+    if (wire.isConstant || wire.isInverted ||
+        wire.sourceText.view().find("_component.") != std::string::npos ||
+        variationPort(description, wire.drivingPort) == nullptr)
       continue;
     rewiredFrom[found->second] = true;
     c.peerName = wire.drivingPort;
@@ -169,16 +204,54 @@ bool readPortBitsDirectly(Netlist::Parts& parts, const CnxDescription& descripti
   return true;
 }
 
+// An inverted slice of a variation port inverts that slice, not the whole port, and its readers read the
+// wire from bit 0. True when some wire changed.
+bool invertPortSlices(Netlist::Parts& parts, const CnxDescription& description) {
+  std::unordered_map<Name, size_t> wireOf;
+  for (size_t w = 0; w < parts.wires.size(); ++w) wireOf.emplace(parts.wires[w].name, w);
+  bool changed = false;
+  for (NetlistConnection& c : parts.connections) {
+    if (c.role != ConversionRole::kNone || !c.peer.bits.present() || c.peer.rows.present()) continue;
+    const auto found = wireOf.find(c.peerName);
+    if (found == wireOf.end()) continue;
+    NetlistWire& wire = parts.wires[found->second];
+    if (!wire.isInverted || wire.sourceText.view().find("_component.") != std::string::npos) continue;
+    const CnxUsedPort* port = variationPort(description, wire.drivingPort);
+    if (port == nullptr || port->shape.rows.present() ||
+        port->shape.bits == Range{c.peer.bits.width, c.peer.bits.low})
+      continue;
+    wire.drivingBits = c.peer.bits;
+    c.peer.bits.low = Bound();
+    changed = true;
+  }
+  return changed;
+}
+
 }  // namespace
 
 std::unique_ptr<Netlist> validWiring(const Netlist& netlist, const CnxDescription& description) {
   auto texts = std::make_unique<TextPool>();
   Netlist::Parts parts = netlist.parts();
-  const bool joined = joinSlicedPins(parts, description, *texts);
   const bool inverted = wireInvertedPins(parts, description, *texts);
+  const bool joined = joinSlicedPins(parts, description, *texts);
   const bool portBits = readPortBitsDirectly(parts, description, *texts);
-  if (!joined && !inverted && !portBits) return nullptr;
+  const bool slices = invertPortSlices(parts, description);
+  if (!joined && !inverted && !portBits && !slices) return nullptr;
   return std::make_unique<Netlist>(std::move(parts), std::move(texts));
+}
+
+WireSlices::WireSlices(const Netlist& netlist) {
+  for (const NetlistWire& wire : netlist.wires())
+    if (!wire.isConstant) wires_.emplace(wire.name, &wire);
+}
+
+bool WireSlices::readsPart(const NetlistConnection& connection) const {
+  if (connection.ownInstance.empty() || !connection.peer.bits.present() || connection.peer.rows.present() ||
+      connection.role != ConversionRole::kNone)
+    return false;
+  const auto found = wires_.find(connection.peerName);
+  if (found == wires_.end() || !found->second->rowsWidth.isZero()) return false;
+  return !connection.peer.bits.low.isZero() || !(connection.peer.bits.width == found->second->bitsWidth);
 }
 
 }  // namespace plovix

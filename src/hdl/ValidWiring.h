@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <unordered_map>
 
 #include "hdl/Netlist.h"
 
@@ -14,5 +15,17 @@ namespace plovix {
 // bus reads that bit of the port. Null when nothing changes. The copy borrows the names of
 // `netlist`, which must outlive it.
 std::unique_ptr<Netlist> validWiring(const Netlist& netlist, const CnxDescription& description);
+
+// The valid text's sub-module inputs read the slice they use of a wire that is wider or starts lower (the one
+// wire on a pin read in several slices or above bit 0).
+class WireSlices {
+ public:
+  explicit WireSlices(const Netlist& netlist);
+  // The connection reads part of a plain wire: the range to write after the wire's name.
+  bool readsPart(const NetlistConnection& connection) const;
+
+ private:
+  std::unordered_map<Name, const NetlistWire*> wires_;
+};
 
 }  // namespace plovix

@@ -1,5 +1,6 @@
 // The second part of the Verilog body: one instance of every sub-module, with its port connections and its
 // parameter settings.
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -9,6 +10,7 @@
 #include "base/TextHelpers.h"
 #include "hdl/HdlChecks.h"
 #include "hdl/InstanceGroups.h"
+#include "hdl/ValidWiring.h"
 #include "hdl/VerilogFileWriter.h"
 
 namespace plovix {
@@ -30,9 +32,10 @@ struct InstanceIndex {
 };
 
 // (i) The connections driving the instance's ports, grouped by consecutive equal port.
-// The valid text reads a slice of a variation port as the slice (readsSliceOfVariationPort).
+// The valid text reads a slice of a variation port as the slice (readsSliceOfVariationPort), and the slice
+// it uses of a wider wire.
 std::string connectionItems(const std::vector<NetlistConnection>& connections, std::span<const uint32_t> list,
-                            const CnxDescription& description, HdlTextMode mode) {
+                            const CnxDescription& description, const WireSlices* slices) {
   std::string items;
   const char* separator = "";
   Name port;
@@ -56,7 +59,7 @@ std::string connectionItems(const std::vector<NetlistConnection>& connections, s
     }
     rightHand += members++ == 0 ? "" : ", ";
     rightHand += c->peerName.view();
-    if (mode == HdlTextMode::kValid && readsSliceOfVariationPort(description, *c))
+    if (slices != nullptr && (readsSliceOfVariationPort(description, *c) || slices->readsPart(*c)))
       rightHand += c->peerBitsRange.view();
   }
   close();
@@ -120,11 +123,14 @@ std::string VerilogFileWriter::instancesText(const VerilogNetlist& declaration) 
 
 void VerilogFileWriter::appendInstances(std::string& text, const VerilogNetlist& declaration) const {
   const InstanceIndex index(declaration.netlist.connections(), declaration.netlist.wires());
+  const std::optional<WireSlices> slices =
+      mode_ == HdlTextMode::kValid ? std::optional<WireSlices>(declaration.netlist) : std::nullopt;
   for (const CnxModule& module : description_.modules) {
     const Name instance = module.instanceName;
     if (instance.empty()) continue;
-    const std::string fromConnections = connectionItems(
-        declaration.netlist.connections(), index.connectionsOf.of(instance), description_, mode_);
+    const std::string fromConnections =
+        connectionItems(declaration.netlist.connections(), index.connectionsOf.of(instance), description_,
+                        slices ? &*slices : nullptr);
     const std::string label = instance.str() + "_component";
     const std::string fromWires = wireItems(findIn(index.wiresOf, std::string_view(label)), mode_);
     const char* joint = !fromConnections.empty() && !fromWires.empty() ? ",\n" : "";

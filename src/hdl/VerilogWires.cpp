@@ -21,9 +21,9 @@ std::string wireLine(RangeTexts& ranges, const NetlistWire& wire, const std::str
       ranges.get(keyOf(bits), [&bits] { return rangeText(bits); }).c_str(), wire.name.c_str(), value.c_str());
 }
 
-// The value a plain wire is declared with: the inverted port, the port itself, or none.
+// The value a plain wire is declared with: the inverted port (or slice), the port itself, or none.
 std::string plainWireValue(const NetlistWire& wire) {
-  if (wire.isInverted) return " = ~" + wire.drivingPort.str();
+  if (wire.isInverted) return " = ~" + wire.drivingPort.str() + rangeText(wire.drivingBits);
   if (wire.sourceText == wire.drivingPort && wire.drivingPort == wire.sourceKey)
     return " = " + wire.drivingPort.str();
   return {};

@@ -100,7 +100,8 @@ std::string assignmentLine(std::string_view target, std::string_view value) {
 }
 
 // Constant wires take their value; a vector constant goes through its bit-vector twin, and VCC is the
-// inverse of all zeros. Inverting wires take the inverse of their driving port.
+// inverse of all zeros. Inverting wires take the inverse of their driving port (in the valid text, of the
+// slice they invert).
 // A number driving a single bit is written as it stands in the standard text, as its lowest bit in the valid
 // one.
 void appendWireAssignments(const std::vector<NetlistWire>& wires, AssignmentText& out, HdlTextMode mode) {
@@ -133,7 +134,8 @@ void appendWireAssignments(const std::vector<NetlistWire>& wires, AssignmentText
       out.append(formatText("\t%s    <= %s%sTo_stdlogicvector(%s_bv)%s;\n", wire.name.c_str(),
                             vcc ? "NOT" : "", vcc ? "(" : "", wire.name.c_str(), vcc ? ")" : ""));
     } else if (wire.isInverted) {
-      out.append(assignmentLine(wire.name.view(), "NOT(" + wire.drivingPort.str() + ")"));
+      const std::string slice = wire.drivingBits.present() ? vhdlRangeText(Shape{{}, wire.drivingBits}) : "";
+      out.append(assignmentLine(wire.name.view(), "NOT(" + wire.drivingPort.str() + slice + ")"));
     }
   }
 }
@@ -259,8 +261,8 @@ class GroupedAssignments {
   AssignmentText& out_;
   bool valid_;
   NameSet constantWires_;
-  NameSet wireNames_;  // valid text: every wire
-  std::unordered_map<Name, Name> portBitWires_;  // wire -> the variation port whose bit it carries
+  NameSet wireNames_;                               // valid text: every wire
+  std::unordered_map<Name, Name> portBitWires_;     // wire -> the variation port whose bit it carries
   std::unordered_map<Name, Shape> constantShapes_;  // valid text: a constant wire -> its bits, from bit 0
   ShapeTexts ranges_;
   std::string target_, previous_, right_, separator_;

@@ -1,4 +1,5 @@
 // The VHDL instances of the sub-modules, with their generic and port maps.
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -7,6 +8,7 @@
 #include "base/Format.h"
 #include "hdl/HdlChecks.h"
 #include "hdl/InstanceGroups.h"
+#include "hdl/ValidWiring.h"
 #include "hdl/VhdlFileWriter.h"
 #include "hdl/VhdlTextRules.h"
 
@@ -72,6 +74,8 @@ void VhdlFileWriter::appendInstances(std::string& text, const VhdlNetlist& signa
   const std::vector<NetlistConnection>& connections = signals.netlist.connections();
   const std::vector<NetlistWire>& wires = signals.netlist.wires();
   const PortMapSources sources = gatherSources(signals);
+  const std::optional<WireSlices> slices =
+      mode_ == HdlTextMode::kValid ? std::optional<WireSlices>(signals.netlist) : std::nullopt;
   for (const CnxModule& module : description_.modules) {
     const Name instance = module.instanceName;
     std::string entries;
@@ -111,7 +115,8 @@ void VhdlFileWriter::appendInstances(std::string& text, const VhdlNetlist& signa
         first = false;
         right += separator;
         right += c.peerName.view();
-        if (mode_ == HdlTextMode::kValid && c.own.bits.present() && readsSliceOfVariationPort(description_, c))
+        if (slices && c.own.bits.present() &&
+            (readsSliceOfVariationPort(description_, c) || slices->readsPart(c)))
           right += vhdlRangeText(c.peer);
         if (c.peer.bits.present() && !c.own.bits.present() && c.role == ConversionRole::kNone) {
           right += "(" + c.peer.bits.low.text() + ")";
