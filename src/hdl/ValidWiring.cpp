@@ -115,16 +115,20 @@ bool joinSlicedPins(Netlist::Parts& parts, const CnxDescription& description, Te
         continue;
       }
       wire.bitsWidth = Bound::ofNumber(width->second, texts);
-      // The component declares the pin as wide as its wire.
+      // The component declares the pin as wide as its wire, and the wire is as wide as the component's pin,
+      // which another instance of the module may use wider.
       const std::string_view pin = pinOf(wire, description);
       const std::string_view port = pin.substr(pin.find("_component.") + 11);
       const std::string_view instance = pin.substr(0, pin.find("_component."));
       for (const CnxModule& module : description.modules) {
         if (module.instanceName != instance) continue;
         for (SubModulePort& merged : parts.subModulePorts) {
-          if (merged.moduleName == module.moduleName && merged.portName == port &&
-              integerOf(merged.shape.bits.width) < width->second)
+          if (merged.moduleName != module.moduleName || merged.portName != port) continue;
+          if (integerOf(merged.shape.bits.width) < width->second) {
             merged.shape.bits = Range{wire.bitsWidth, Bound()};
+          } else if (merged.shape.bits.width.isInteger()) {
+            wire.bitsWidth = merged.shape.bits.width;
+          }
         }
       }
     }

@@ -182,8 +182,9 @@ class GroupedAssignments {
       const bool oneSideFlat = c.own.bits.present() != c.peer.bits.present();
       if (oneSideFlat && !constantPeer) {
         if (c.role != ConversionRole::kNone) return;
-        // The valid text's instance reads a variation port's bit itself.
-        if (valid_ && !wireNames_.contains(c.peerName.view())) return;
+        // The valid text's instance reads a variation port's bit itself, and a single-bit input reads its bit
+        // of a wire that something else drives.
+        if (valid_ && (!wireNames_.contains(c.peerName.view()) || !c.own.bits.present())) return;
         const auto port = portBitWires_.find(c.peerName);
         if (port != portBitWires_.end() && c.own.bits.width.isOne()) {
           open(c.peerName.view());
