@@ -82,7 +82,14 @@ def parse_components(vhdl_text):
                 (rh, _, rl), (bh, _, bl) = ranges[:2]
                 ports.append(Port(m.group(1), m.group(2), (int(rh), int(rl)), (int(bh), int(bl))))
         components.append(Component(match.group(1), generics, ports))
-    return components
+    # A module declared again (in a block, for an instance with generics of its own): one model with every
+    # generic any declaration names.
+    merged = {}
+    for c in components:
+        first = merged.setdefault(c.name.lower(), c)
+        known = {name.lower() for name, _ in first.generics}
+        first.generics.extend(g for g in c.generics if g[0].lower() not in known)
+    return list(merged.values())
 
 
 def _function_terms(n_in, n_out):

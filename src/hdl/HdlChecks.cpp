@@ -204,11 +204,13 @@ void findVhdlConstructs(const CnxDescription& description, const Netlist& netlis
     }
   }
 
-  // The one component declaration of a module takes the constants of its first instance.
+  // The one component declaration of a module takes the generics (constants and parameters) of its first
+  // instance.
   auto constantsOf = [&](Name instance) {
     std::set<std::string> names;
-    for (const CnxConstant& c : description.constants)
-      if (c.target.empty() || c.target == instance) names.insert(toLowerText(c.name.view()));
+    for (const auto* list : {&description.constants, &description.parameters})
+      for (const CnxParameter& c : *list)
+        if (c.target.empty() || c.target == instance) names.insert(toLowerText(c.name.view()));
     return names;
   };
   std::map<std::string, std::set<std::string>> firstInstanceConstants;

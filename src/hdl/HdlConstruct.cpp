@@ -44,7 +44,7 @@ constexpr std::array<ConstructRow, 23> kConstructs = {{
     {HdlConstruct::kSliceToWholePort, "slice-to-whole-port", Msg::kHdlSliceToWholePort, kValid, kValid},
     {HdlConstruct::kBitOfOutputToBit, "slice-above-zero", Msg::kHdlBitOfOutputToBit, kValid, kValid},
     {HdlConstruct::kGenericsOfFirstInstance, "generics-of-first-instance", Msg::kHdlGenericsOfFirstInstance,
-     kNotYet, kNothing},
+     kValid, kNothing},
     {HdlConstruct::kConstantAboveZero, "constant-above-zero", Msg::kHdlConstantAboveZero, kValid, kNothing},
     {HdlConstruct::kInvertedSlice, "inverted-slice", Msg::kHdlInvertedSlice, kValid, kValid},
 }};

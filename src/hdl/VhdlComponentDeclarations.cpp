@@ -59,6 +59,10 @@ std::unordered_map<std::string, long long> fedWidths(const CnxDescription& descr
 // One declaration per distinct module, with the generics of its first instance. In the valid text a port fed
 // in slices is as wide as the highest bit fed, not as the widest slice.
 std::string VhdlFileWriter::componentDeclarationsText() const {
+  return componentDeclarationsText(Name(), Name());
+}
+
+std::string VhdlFileWriter::componentDeclarationsText(Name onlyModule, Name genericsInstance) const {
   const std::vector<SubModulePort>& subModulePorts = netlist_.subModulePorts();
   const auto widths = mode_ == HdlTextMode::kValid ? fedWidths(description_, netlist_)
                                                    : std::unordered_map<std::string, long long>();
@@ -69,7 +73,9 @@ std::string VhdlFileWriter::componentDeclarationsText() const {
   std::string text;
   std::unordered_set<Name> declared;
   for (const CnxModule& module : description_.modules) {
-    if (!declared.insert(module.moduleName).second) continue;
+    if ((!onlyModule.empty() && module.moduleName != onlyModule) ||
+        !declared.insert(module.moduleName).second)
+      continue;
     std::string portLines;
     const auto ports = portsByModule.find(module.moduleName);
     if (ports != portsByModule.end()) {
@@ -88,7 +94,9 @@ std::string VhdlFileWriter::componentDeclarationsText() const {
     }
     appendFormatted(
         text, "\n\n\tCOMPONENT %s\n%s\tPORT (\n%s\n\t);\n\tEND COMPONENT;\n\n", module.moduleName.c_str(),
-        componentGenericText(description_, module.instanceName, mode_).c_str(), portLines.c_str());
+        componentGenericText(description_, onlyModule.empty() ? module.instanceName : genericsInstance, mode_)
+            .c_str(),
+        portLines.c_str());
   }
   return text;
 }

@@ -37,6 +37,9 @@ class VhdlFileWriter : public HdlFileWriter {
   // by the last two-dimensional wire.
   std::string twoDimensionalProcedureText() const;
   std::string componentDeclarationsText() const;
+  // The declaration of one module's component with the generics of `genericsInstance` (all of them, or
+  // only the declaration of `onlyModule` where that is not empty).
+  std::string componentDeclarationsText(Name onlyModule, Name genericsInstance) const;
   // The four sections of concurrent assignments.
   std::string concurrentAssignmentsText(const VhdlNetlist& signals) const;
   std::string instancesText(const VhdlNetlist& signals) const;
@@ -47,6 +50,8 @@ class VhdlFileWriter : public HdlFileWriter {
   void appendSignalDeclarations(std::string& text, const VhdlNetlist& signals) const;
   void appendConcurrentAssignments(std::string& text, const VhdlNetlist& signals) const;
   void appendInstances(std::string& text, const VhdlNetlist& signals) const;
+  // Another instance of the module comes first and maps other generics than this one.
+  bool genericsDiffer(const CnxModule& module) const;
 
   HdlTextMode mode_;
   // The valid text's rewired netlist (validWiring), where it differs from the one given.

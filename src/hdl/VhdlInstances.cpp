@@ -1,11 +1,13 @@
 // The VHDL instances of the sub-modules, with their generic and port maps.
 #include <optional>
+#include <set>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
 #include "base/Format.h"
+#include "base/TextHelpers.h"
 #include "hdl/HdlChecks.h"
 #include "hdl/InstanceGroups.h"
 #include "hdl/ValidWiring.h"
@@ -62,7 +64,25 @@ PortMapSources gatherSources(const VhdlNetlist& signals) {
   return sources;
 }
 
+// The names of the generics an instance maps in the valid text: its constants and parameters.
+std::set<std::string> genericNames(const CnxDescription& description, Name instance) {
+  std::set<std::string> names;
+  for (const auto* list : {&description.constants, &description.parameters})
+    for (const CnxParameter& value : *list)
+      if (value.target.empty() || value.target == instance) names.insert(toLowerText(value.name.view()));
+  return names;
+}
+
 }  // namespace
+
+bool VhdlFileWriter::genericsDiffer(const CnxModule& module) const {
+  for (const CnxModule& first : description_.modules) {
+    if (first.moduleName != module.moduleName) continue;
+    return &first != &module &&
+           genericNames(description_, first.instanceName) != genericNames(description_, module.instanceName);
+  }
+  return false;
+}
 
 std::string VhdlFileWriter::instancesText(const VhdlNetlist& signals) const {
   std::string text;
@@ -138,9 +158,18 @@ void VhdlFileWriter::appendInstances(std::string& text, const VhdlNetlist& signa
       }
     }
 
+    // The valid text declares the component again, in a block of its own, for an instance whose generics
+    // differ from those of its module's first instance.
+    const bool block = mode_ == HdlTextMode::kValid && genericsDiffer(module);
+    if (block) {
+      appendFormatted(text, "\t%s_block : BLOCK\n", label.c_str());
+      text += componentDeclarationsText(module.moduleName, instance);
+      text += "\tBEGIN\n";
+    }
     text += fillTemplate("\t%s : %s\n%s\n%s\n\n",
                          {label, module.moduleName.view(), genericMapText(description_, instance, mode_),
                           fillTemplate("\tPORT MAP (\n%s\n\t);\n\n", {entries})});
+    if (block) appendFormatted(text, "\tEND BLOCK %s_block;\n\n", label.c_str());
   }
 }
 
