@@ -11,9 +11,10 @@
 namespace plovix::testing {
 
 inline const char* const kLimitCases[] = {
-    "upper_parameter", "numeric_default", "number_drives_bit", "constant_slice", "one_bit_bus",
-    "inverted_output", "pin_read_twice",  "main_slices",       "sliced_feeds",   "reserved_names",
-    "bit_of_bus",      "slice_to_port",   "slice_above_zero",  "two_instances"};
+    "upper_parameter",  "numeric_default", "number_drives_bit",   "constant_slice",
+    "one_bit_bus",      "inverted_output", "pin_read_twice",      "main_slices",
+    "sliced_feeds",     "reserved_names",  "bit_of_bus",          "slice_to_port",
+    "slice_above_zero", "two_instances",   "constant_above_zero", "inverted_slice"};
 
 inline bool isLimitCase(const std::string& name) {
   for (const char* limit : kLimitCases)
