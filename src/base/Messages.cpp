@@ -251,10 +251,6 @@ constexpr Row kTable[] = {
      "a sub-module output read in one slice above bit 0 is read from a wire as narrow as the slice"},
     {Msg::kHdlGenericsOfFirstInstance,
      "an instance without a constant that the module's first instance has lacks that VHDL generic"},
-    {Msg::kHdlConstantAboveZero,
-     "a constant driving an output slice above bit 0 is read at the slice's bits from a signal that holds "
-     "only its own bits in VHDL"},
-    {Msg::kHdlInvertedSlice, "an inverted slice of a variation port inverts the whole port"},
     {Msg::kLintFindingAt, "lint: %s: %s:%s: %s"},
     {Msg::kLintFinding, "lint: %s: %s: %s"},
     {Msg::kLintNoTools, "none of the HDL tools %s is on PATH; %s was not checked"},
@@ -279,6 +275,10 @@ constexpr Row kTable[] = {
     {Msg::kPositionChannelTaken,
      "The position channel %s is taken by another program; the plug-in's window position is not followed in "
      "this run."},
+    {Msg::kHdlConstantAboveZero,
+     "a constant driving an output slice above bit 0 is read at the slice's bits from a signal that holds "
+     "only its own bits in VHDL"},
+    {Msg::kHdlInvertedSlice, "an inverted slice of a variation port inverts the whole port"},
 };
 
 // Every message has its row, at the index of its number.

@@ -200,8 +200,6 @@ enum class Msg : int {
   kHdlSliceToWholePort,
   kHdlBitOfOutputToBit,
   kHdlGenericsOfFirstInstance,
-  kHdlConstantAboveZero,
-  kHdlInvertedSlice,
 
   // plovix --lint.
   kLintFindingAt,
@@ -223,6 +221,9 @@ enum class Msg : int {
   kDescriptionKept,
   kPluginEndedBySignal,
   kPositionChannelTaken,
+  // More HDL constructs.
+  kHdlConstantAboveZero,
+  kHdlInvertedSlice,
 
   kMessageCount
 };
